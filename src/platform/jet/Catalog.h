@@ -1,0 +1,40 @@
+#pragma once
+// What the SQL layers have to know of the tables: names, types, sizes. The tables themselves stand as one
+// constexpr list in data/; here are only the words in which it is written.
+
+#include <span>
+#include <string_view>
+
+namespace varnik::jet {
+
+enum class ColumnType { Text, Date, Double, Single, Long, Short, Boolean, Decimal };
+
+struct Column {
+    std::string_view name;
+    ColumnType type = ColumnType::Text;
+    int size = 0; // characters, text only
+    bool required = false;
+    bool autoIncrement = false;
+};
+
+struct Table {
+    std::string_view name;
+    std::span<const Column> columns; // in creation order, the order of SELECT *
+};
+
+// Tables and, for stored queries, only what the rewriter needs: the columns of a query that hold text.
+struct View {
+    std::string_view name;
+    std::string_view sql; // its text in the screens' dialect
+};
+
+struct Catalog {
+    std::span<const Table> tables;
+    std::span<const View> views;
+
+    const Table* FindTable(std::string_view name) const; // without regard to case; null when unknown
+};
+
+const Column* FindColumn(const Table& table, std::string_view name);
+
+} // namespace varnik::jet
