@@ -58,7 +58,8 @@ public:
 
     // Whether a person can see it, reach it: the frames around it count too.
     bool IsShown() const;
-    bool CanFocus() const; // shown, enabled, and of a kind that takes the focus
+    bool IsUsable() const; // shown, and neither it nor a frame around it disabled
+    bool CanFocus() const; // usable, and of a kind that takes the focus
     Frame* Container() const { return container_; }
     bool TabStop() const { return tabStop_; }
     void SetTabStop(bool stop) { tabStop_ = stop; }
@@ -83,6 +84,8 @@ protected:
         if (watcher_) watcher_();
     }
     void RaiseChange();
+    // What a person does to the control: a failure that escapes the handlers goes to the screen's report.
+    void Person(const std::function<void()>& act);
 
 private:
     Screen& screen_;

@@ -33,6 +33,7 @@ public:
     using Control::Control;
     const std::string& Text() const { return text_; }
     void SetText(std::string text);         // raises onChange when the text differs
+    void Type(std::string text);            // by a person: nothing when locked, cut to MaxLength
     bool Locked() const { return locked_; } // shows and takes the focus, takes no typing
     void SetLocked(bool locked);
     int MaxLength() const { return maxLength_; } // characters, 0 for any
@@ -73,14 +74,15 @@ public:
     bool ListOnly() const { return listOnly_; } // picks from the list, takes no free typing
     void SetListOnly(bool only) { listOnly_ = only; }
     int ListIndex() const; // of the item that the text equals, -1 when none
-    void Pick(int index);  // by a person: sets the text, then onClick
+    void Pick(int index);  // by a person: sets the text, then onClick; nothing when locked
 
 private:
     std::vector<std::string> items_;
     bool listOnly_ = false;
 };
 
-// CheckBox and OptionButton: setting the value from code raises onClick when it differs.
+// CheckBox and OptionButton: setting the value from code raises onClick when it differs (an option that
+// goes off because another of its group went on raises nothing).
 class CheckBox : public Control {
 public:
     CheckBox(Screen& screen, std::string name, std::string caption = "")
@@ -112,6 +114,7 @@ public:
         : Control(screen, Kind::DatePicker, std::move(name), std::move(caption)) {}
     DateTime Date() const { return date_; }
     void SetDate(DateTime date); // raises onChange when it differs
+    void Pick(DateTime date);    // by a person
 
 private:
     DateTime date_;
@@ -168,9 +171,7 @@ public:
     Timer(Screen& screen, std::string name, int milliseconds)
         : Control(screen, Kind::Timer, std::move(name)), milliseconds_(milliseconds) {}
     int Milliseconds() const { return milliseconds_; }
-    void Tick() {
-        if (onTick) onTick();
-    }
+    void Tick(); // by the clock
     std::function<void()> onTick;
 
 private:

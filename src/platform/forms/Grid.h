@@ -66,6 +66,7 @@ public:
     // A column of yes/no cells ("-1" and "0") that a person ticks; -1 for none.
     int CheckColumn() const { return checkColumn_; }
     void SetCheckColumn(int column) { checkColumn_ = column; }
+    void ToggleCheck(int row);                   // by a person: turns the yes/no cell of the row over
     int RowHeight() const { return rowHeight_; } // in the list's own units, 0 for its own choice
     void SetRowHeight(int height);
 
