@@ -25,6 +25,9 @@ struct Regional {
 std::string ShortDate(DateTime date, const Regional& regional);
 // A date in the pieces of a mask made of dd, mm, yy, yyyy and any separators; hh:mm:ss shows the time.
 std::string FormatDate(DateTime date, std::string_view mask);
+// The mask that turns dates into text in the machine's order ("mm/dd/yyyy"); "" for a short date that is
+// neither 8 nor 10 characters long.
+std::string DateMaskOfMachine(const Regional& regional);
 // Reads a date in the machine's order; takes the machine's separator, "/", "-" and ".", surrounding
 // blanks, one- and two-digit parts (years 00 to 29 are 20xx), a trailing time, and ISO. Nothing when the
 // text is no date.
