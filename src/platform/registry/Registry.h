@@ -1,6 +1,10 @@
 #pragma once
 // Keys and values as the desktop platform's registry keeps them, in one readable file of the program's
 // folder. Key and value names are compared without regard to case; keys are joined by backslashes.
+//
+//     [SOFTWARE\ODBC\ODBC.INI\Varnik]
+//     "DBQ"="/home/shop/Varnik/Data/Varnik.mdb"
+//     "DriverId"=25
 
 #include <cstdint>
 #include <filesystem>
@@ -14,22 +18,33 @@ namespace varnik::registry {
 
 using Data = std::variant<std::string, std::uint32_t>;
 
+struct NoCaseLess {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const;
+};
+
 class Registry {
 public:
     // Reads the file when it is there. A file that cannot be read counts as empty.
     explicit Registry(std::filesystem::path file);
 
+    // Whether the key, or one below it, is there.
     bool KeyExists(std::string_view key) const;
     std::optional<Data> Query(std::string_view key, std::string_view value) const;
     std::optional<std::string> QueryText(std::string_view key, std::string_view value) const;
     // Creates the key when it is missing and writes the file at once, whole or not at all; false when
     // the file cannot be written.
     bool Set(std::string_view key, std::string_view value, Data data);
+    // With all keys below it; false when there is none or the file cannot be written.
     bool DeleteKey(std::string_view key);
 
 private:
+    using Values = std::map<std::string, Data, NoCaseLess>;
+
+    bool Write() const;
+
     std::filesystem::path file_;
-    std::map<std::string, std::map<std::string, Data>> keys_;
+    std::map<std::string, Values, NoCaseLess> keys_;
 };
 
 } // namespace varnik::registry
