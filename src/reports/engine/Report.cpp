@@ -1,0 +1,66 @@
+#include "reports/engine/Report.h"
+
+#include "common/Text.h"
+#include "reports/engine/Layout.h"
+
+namespace varnik::reports {
+
+namespace {
+
+std::string Folded(const std::string& text) { return Upper(text); }
+
+} // namespace
+
+Report::Report(Definition definition, Rows rows, Facts facts)
+    : layout_(std::make_unique<const Layout>(std::move(definition), std::move(rows), std::move(facts))) {}
+
+Report::~Report() = default;
+
+const Facts& Report::About() const { return layout_->Content().About(); }
+
+std::string Report::WindowTitle() const {
+    const std::string& title = About().request.WindowTitle;
+    return Trim(title).empty() ? Title() : title;
+}
+
+std::string Report::Title() const {
+    const auto& document = layout_->Content().Layout().document;
+    const std::string title = layout_->Content().Title();
+    return title.empty() && document ? document->heading : title;
+}
+
+long Report::RowCount() const { return layout_->Content().RowCount(); }
+
+int Report::PageCount() const { return layout_->PageCount(); }
+
+double Report::PageWidth() const { return layout_->PageWidth(); }
+
+double Report::PageHeight() const { return layout_->PageHeight(); }
+
+Page Report::BuildPage(int number) const { return layout_->Build(std::clamp(number, 1, PageCount())); }
+
+std::optional<Hit> Report::Find(const std::string& text, std::optional<Hit> from, bool forward,
+                                const Progress& progress) const {
+    const std::string wanted = Folded(text);
+    if (wanted.empty()) return {};
+    const int pages = PageCount(), step = forward ? 1 : -1;
+    const Hit start = from.value_or(forward ? Hit{1, -1} : Hit{pages, 1 << 30});
+    int number = std::clamp(start.page, 1, pages);
+    // The page of the start is looked through twice: behind the start first, before it last.
+    for (int turn = 0; turn <= pages; ++turn, number += step) {
+        if (number > pages) number = 1;
+        if (number < 1) number = pages;
+        if (progress && !progress(turn, pages)) return {};
+        const Page page = BuildPage(number);
+        const int runs = static_cast<int>(page.runs.size());
+        for (int run = forward ? 0 : runs - 1; run >= 0 && run < runs; run += step) {
+            const bool behind = forward ? run > start.run : run < start.run;
+            if ((turn == 0 && !behind) || (turn == pages && behind)) continue;
+            if (Folded(page.runs[static_cast<std::size_t>(run)].text).find(wanted) != std::string::npos)
+                return Hit{number, run};
+        }
+    }
+    return {};
+}
+
+} // namespace varnik::reports
