@@ -26,7 +26,8 @@ public:
     [[noreturn]] static void Fail(const toml::source_region& where, const std::string& what) {
         throw toml::parse_error(what.c_str(), where);
     }
-    template <typename T> void Get(const char* key, T& into) {
+    template <typename T>
+    void Get(const char* key, T& into) {
         const toml::node* node = Node(key);
         if (node == nullptr) return;
         if constexpr (std::is_same_v<T, double>) {
@@ -46,18 +47,21 @@ public:
         into = static_cast<int>(number);
     }
     // A text that is read further: template, formula.
-    template <typename T> void Parse(const char* key, T& into) {
+    template <typename T>
+    void Parse(const char* key, T& into) {
         std::string text;
         Get(key, text);
         if (!text.empty()) into = Read<T>(*Node(key), text);
     }
-    template <typename T> void Parse(const char* key, std::optional<T>& into) {
+    template <typename T>
+    void Parse(const char* key, std::optional<T>& into) {
         std::string text;
         Get(key, text);
         if (!text.empty()) into = Read<T>(*Node(key), text);
     }
     // One of several words.
-    template <typename T> void Choose(const char* key, T& into, const std::map<std::string, T>& words) {
+    template <typename T>
+    void Choose(const char* key, T& into, const std::map<std::string, T>& words) {
         std::string word;
         Get(key, word);
         if (word.empty()) return;
@@ -98,7 +102,8 @@ public:
             if (!known_.contains(std::string(key.str())))
                 Fail(node.source(), "\"" + std::string(key.str()) + "\" is no key of " + name_);
     }
-    template <typename T> static T Read(const toml::node& node, const std::string& text) {
+    template <typename T>
+    static T Read(const toml::node& node, const std::string& text) {
         try {
             return T(text);
         } catch (const std::invalid_argument& fault) {
@@ -151,8 +156,8 @@ Column ReadColumn(const toml::table& table) {
         ageSection.RefuseTheRest();
     }
     section.RefuseTheRest();
-    const int sources = !column.field.empty() + column.formula.has_value() + !column.text.Empty() +
-                        column.running;
+    const int sources =
+        !column.field.empty() + column.formula.has_value() + !column.text.Empty() + column.running;
     if (sources != 1)
         Section::Fail(table.source(), "a column has exactly one of field, formula, text, running");
     if (column.width <= 0) Section::Fail(table.source(), "a column has to be wider than nothing");
@@ -167,6 +172,7 @@ Group ReadGroup(const toml::table& table) {
     section.Parse("footer", group.footer);
     section.Get("summary", group.summary);
     section.Get("new_page", group.newPage);
+    section.Get("heading", group.heading);
     section.RefuseTheRest();
     if (group.by.empty()) Section::Fail(table.source(), "a group lacks \"by\", the column it follows");
     return group;
@@ -200,9 +206,8 @@ Document ReadDocument(const toml::table& table) {
     section.Get("words_caption", document.wordsCaption);
     section.Parse("words", document.words);
     templates("notes", document.notes);
-    section.Texts("signatures", [&](const toml::node&, const std::string& text) {
-        document.signatures.push_back(text);
-    });
+    section.Texts("signatures",
+                  [&](const toml::node&, const std::string& text) { document.signatures.push_back(text); });
     section.RefuseTheRest();
     return document;
 }
@@ -217,9 +222,8 @@ Definition Read(const toml::table& table) {
     section.Choose<bool>("paper", definition.across, {{"upright", false}, {"across", true}});
     section.Get("font_size", definition.fontSize);
     section.Get("headings", definition.headings);
-    section.Texts("sort", [&](const toml::node&, const std::string& name) {
-        definition.sort.push_back(name);
-    });
+    section.Texts("sort",
+                  [&](const toml::node&, const std::string& name) { definition.sort.push_back(name); });
     section.Get("leave_out_zero", definition.leaveOutZero);
     section.Get("total_caption", definition.totalCaption);
     section.Tables("column",
@@ -261,7 +265,8 @@ Definition LoadDefinition(const std::filesystem::path& folder, const std::string
         text << stream.rdbuf();
         if (!stream.bad()) return ReadDefinition(text.str(), found.filename().string());
     }
-    throw ado::DataError(MissingDefinition, "The report definition \"" + file + "\" is missing or cannot be read in the folder \"" +
+    throw ado::DataError(MissingDefinition, "The report definition \"" + file +
+                                                "\" is missing or cannot be read in the folder \"" +
                                                 folder.string() + "\".");
 }
 

@@ -33,9 +33,9 @@ struct Column {
     std::string field;
     std::optional<Expression> formula;
     Template text;
-    bool running = false; // the balance after this row
-    double width = 20;    // mm; figures get more when they need it
-    bool flex = false;    // shares what is left of the page's width, never less than `width`
+    bool running = false;       // the balance after this row
+    double width = 20;          // mm; figures get more when they need it
+    bool flex = false;          // shares what is left of the page's width, never less than `width`
     std::optional<Align> align; // figures right, all else left
     std::string mask;           // of figures; "" shows decimals only when a value of the column has some
     bool total = false;         // summed in group and closing lines
@@ -46,18 +46,19 @@ struct Column {
 };
 
 struct Group {
-    std::string by;        // a change of this column's value begins a new group
-    Template header;       // "" for none
-    Template footer;       // in front of the totals; "" for none
-    bool summary = false;  // in the summary form the whole group is one line
-    bool newPage = false;  // begins on a page of its own
+    std::string by;       // a change of this column's value begins a new group
+    Template header;      // "" for none
+    Template footer;      // in front of the totals; "" for none
+    bool summary = false; // in the summary form the whole group is one line
+    bool newPage = false; // begins on a page of its own
+    std::string heading;  // of the column that a spreadsheet gets for the header's text
 };
 
 // Amount carried from row to row.
 struct Running {
-    Expression change;      // what a row adds: "Debit - Kredit"
-    std::string opening;    // parameter with the balance before the first row
-    std::string closing;    // parameter with the balance after the last row
+    Expression change;   // what a row adds: "Debit - Kredit"
+    std::string opening; // parameter with the balance before the first row
+    std::string closing; // parameter with the balance after the last row
     std::string openingCaption = "Opening balance";
     std::string closingCaption = "Closing balance";
 };
@@ -69,11 +70,11 @@ struct Labelled {
 
 // A printed document (invoice, voucher): head and foot around the lines of one number.
 struct Document {
-    std::string heading;             // "INVOICE"
-    std::string toCaption;           // over the address
-    std::vector<Template> to;        // lines that come out empty are left out
-    std::vector<Labelled> fields;    // number, date ...; the same
-    std::vector<Labelled> totals;    // the last is the large one
+    std::string heading;          // "INVOICE"
+    std::string toCaption;        // over the address
+    std::vector<Template> to;     // lines that come out empty are left out
+    std::vector<Labelled> fields; // number, date ...; the same
+    std::vector<Labelled> totals; // the last is the large one
     std::string wordsCaption = "In words";
     Template words;
     std::vector<Template> notes;
@@ -81,13 +82,13 @@ struct Document {
 };
 
 struct Definition {
-    std::string file;     // "Invoice.rpt"
-    Template title;       // used when neither a parameter nor the request brings one
-    Template subtitle;    // "{SubJudul}" unless set
-    std::string query;    // stored query; {Column} stands for the document's number
-    bool across = false;  // A4 across
-    double fontSize = 9;  // points; smaller when the columns need it
-    bool headings = true; // column headings
+    std::string file;              // "Invoice.rpt"
+    Template title;                // used when neither a parameter nor the request brings one
+    Template subtitle;             // "{SubJudul}" unless set
+    std::string query;             // stored query; {Column} stands for the document's number
+    bool across = false;           // A4 across
+    double fontSize = 9;           // points; smaller when the columns need it
+    bool headings = true;          // column headings
     std::vector<std::string> sort; // column names, over the statement's order
     std::string leaveOutZero;      // rows whose value in this column is 0 are left out
     std::vector<Column> columns;

@@ -47,8 +47,7 @@ namespace {
 double Company(const Table& table, double width, Page& page) {
     const auto& company = table.About().company;
     double y = Margin;
-    if (!company[0].empty())
-        y += Line(page, Margin, y, width, company[0], {14, true, Accent}) + 0.6;
+    if (!company[0].empty()) y += Line(page, Margin, y, width, company[0], {14, true, Accent}) + 0.6;
     for (std::size_t i = 1; i < company.size(); ++i)
         if (!Trim(company[i]).empty()) y += Line(page, Margin, y, width, company[i], {8.5, false, Muted});
     return y - Margin;
@@ -89,9 +88,8 @@ double NextHead(const Table& table, double width, Page& page) {
     if (document && !document->fields.empty())
         title += "  " + table.Fill(document->fields.front().text, table.All());
     Line(page, Margin, Margin, width * 0.5, table.About().company[0], {9, true, Accent});
-    const double height = Line(page, Margin + width * 0.5, Margin, width * 0.5, title,
-                               {9, true, Black, Align::Right}) +
-                          1.2;
+    const double height =
+        Line(page, Margin + width * 0.5, Margin, width * 0.5, title, {9, true, Black, Align::Right}) + 1.2;
     HorizontalRule(page, Margin, Margin + height, width, Accent, 0.4);
     return height + 2.5;
 }

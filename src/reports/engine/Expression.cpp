@@ -2,6 +2,7 @@
 
 #include "common/Numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 
@@ -85,9 +86,12 @@ void Expression::Bind(const Rows& rows) {
 }
 
 bool Expression::HasColumns() const {
-    for (const Step& step : steps_)
-        if (step.column >= 0) return true;
-    return false;
+    return std::any_of(steps_.begin(), steps_.end(), [](const Step& step) { return step.column >= 0; });
+}
+
+bool Expression::HasAllColumns() const {
+    return std::none_of(steps_.begin(), steps_.end(),
+                        [](const Step& step) { return step.operation == 'c' && step.column < 0; });
 }
 
 double Expression::Evaluate(const Rows& rows, std::size_t row) const {
@@ -107,10 +111,18 @@ double Expression::Evaluate(const Rows& rows, std::size_t row) const {
         }
         double& left = stack[top - 2];
         switch (step.operation) {
-        case '+': left += last; break;
-        case '-': left -= last; break;
-        case '*': left *= last; break;
-        default: left = last == 0 ? 0 : left / last; break;
+        case '+':
+            left += last;
+            break;
+        case '-':
+            left -= last;
+            break;
+        case '*':
+            left *= last;
+            break;
+        default:
+            left = last == 0 ? 0 : left / last;
+            break;
         }
         --top;
     }

@@ -18,8 +18,9 @@ public:
 
     // Looks the columns up once; a column that the rows do not have counts as 0.
     void Bind(const Rows& rows);
-    // Whether at least one column of the expression is there.
+    // Whether at least one column of the expression is there; whether all are.
     bool HasColumns() const;
+    bool HasAllColumns() const;
     // Empty cells count as 0, and so does a quotient by 0.
     double Evaluate(const Rows& rows, std::size_t row) const;
 

@@ -11,8 +11,8 @@ using namespace look;
 
 namespace {
 
-constexpr double RowPadding = 1.3;   // mm, above and below a row together
-constexpr int MostLines = 12;  // of one cell; no column of the data needs more
+constexpr double RowPadding = 1.3; // mm, above and below a row together
+constexpr int MostLines = 12;      // of one cell; no column of the data needs more
 
 double PaperWidth(const Definition& definition) { return definition.across ? 297 : 210; }
 
@@ -69,7 +69,7 @@ void Layout::ListGroups(std::size_t level, Span span) {
         }
         if (!group.header.Empty()) Add(Kind::GroupHeader, LineItemHeight(), level, i);
         ListGroups(level + 1, groups[i]);
-        if (!group.footer.Empty()) Add(Kind::GroupFooter, LineItemHeight(), level, i);
+        if (!group.footer.Empty() && table_.HasTotals()) Add(Kind::GroupFooter, LineItemHeight(), level, i);
     }
 }
 
@@ -111,11 +111,15 @@ double Layout::Top(int page) const {
 // The printed row that an item stands for or under.
 std::uint32_t Layout::FirstRow(const Item& item) const {
     switch (item.kind) {
-    case Kind::Row: return item.index;
+    case Kind::Row:
+        return item.index;
     case Kind::GroupHeader:
-    case Kind::SummaryRow: return table_.Groups(item.level)[item.index].first;
-    case Kind::GroupFooter: return table_.Groups(item.level)[item.index].last - 1;
-    default: return table_.RowCount();
+    case Kind::SummaryRow:
+        return table_.Groups(item.level)[item.index].first;
+    case Kind::GroupFooter:
+        return table_.Groups(item.level)[item.index].last - 1;
+    default:
+        return table_.RowCount();
     }
 }
 
@@ -162,8 +166,8 @@ double Layout::HeadingsHeight() const {
     if (!table_.Layout().headings) return 0;
     int lines = 1;
     for (const Slot& slot : table_.Slots())
-        lines = std::max(lines, WrappedLines(slot.column->heading, slot.width - 2 * CellPadding,
-                                             table_.FontSize(), true));
+        lines = std::max(
+            lines, WrappedLines(slot.column->heading, slot.width - 2 * CellPadding, table_.FontSize(), true));
     return lines * LineHeight(table_.FontSize()) + 2 * RowPadding;
 }
 
@@ -200,7 +204,9 @@ void Layout::Draw(const Item& item, double y, Page& page) const {
         DrawSums(item, definition.running->openingCaption, y, page);
         HorizontalRule(page, Margin, y + item.height, width);
         break;
-    case Kind::GroupHeader: DrawGroupHeader(item.level, item.index, false, y, page); break;
+    case Kind::GroupHeader:
+        DrawGroupHeader(item.level, item.index, false, y, page);
+        break;
     case Kind::Row:
         DrawCells([&](const Slot& slot) { return table_.CellText(slot, item.index); }, y, item.height, page);
         break;
@@ -209,8 +215,9 @@ void Layout::Draw(const Item& item, double y, Page& page) const {
         break;
     case Kind::GroupFooter:
         HorizontalRule(page, Margin, y, width, Muted, 0.2);
-        DrawSums(item, table_.Fill(definition.groups[item.level].footer, table_.Groups(item.level)[item.index]),
-                 y, page);
+        DrawSums(item,
+                 table_.Fill(definition.groups[item.level].footer, table_.Groups(item.level)[item.index]), y,
+                 page);
         break;
     case Kind::Total:
         page.shades.push_back({{Margin, y, width, item.height}, HeadingTint});
@@ -218,7 +225,9 @@ void Layout::Draw(const Item& item, double y, Page& page) const {
         DrawSums(item, definition.running ? definition.running->closingCaption : definition.totalCaption, y,
                  page);
         break;
-    case Kind::Foot: Append(page, foot_, y); break;
+    case Kind::Foot:
+        Append(page, foot_, y);
+        break;
     case Kind::NoRows:
         Line(page, Margin, y + LineItemHeight() / 2, width, "No data for this selection",
              {table_.FontSize(), false, Muted, Align::Center});
@@ -300,7 +309,8 @@ void Layout::DrawPageFoot(Page& page) const {
     HorizontalRule(page, Margin, y - 1.5, width);
     if (!table_.Layout().document)
         Line(page, Margin, y, width / 2,
-             "Printed " + ShortDate(facts.now, facts.regional) + " " + FormatDate(facts.now, "hh:mm:ss").substr(0, 5),
+             "Printed " + ShortDate(facts.now, facts.regional) + " " +
+                 FormatDate(facts.now, "hh:mm:ss").substr(0, 5),
              {8, false, Muted});
     Line(page, Margin + width / 2, y, width / 2,
          "Page " + std::to_string(page.number) + " of " + std::to_string(PageCount()),

@@ -26,7 +26,16 @@ public:
     Page Build(int number) const;
 
 private:
-    enum class Kind : std::uint8_t { Opening, GroupHeader, Row, SummaryRow, GroupFooter, Total, Foot, NoRows };
+    enum class Kind : std::uint8_t {
+        Opening,
+        GroupHeader,
+        Row,
+        SummaryRow,
+        GroupFooter,
+        Total,
+        Foot,
+        NoRows
+    };
     struct Item {
         Kind kind;
         std::uint8_t level;  // of a group
@@ -39,7 +48,7 @@ private:
     void Add(Kind kind, double height, std::size_t level = 0, std::size_t index = 0);
     bool StaysWithNext(std::size_t item) const;
     void Break();
-    double Top(int page) const;                          // mm, under the page's head and column headings
+    double Top(int page) const; // mm, under the page's head and column headings
     std::vector<std::size_t> Continued(std::size_t item) const; // levels going on at the head of a page
     std::uint32_t FirstRow(const Item& item) const;
 

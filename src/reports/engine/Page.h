@@ -40,9 +40,9 @@ struct Shade {
 };
 
 struct Page {
-    int number = 1;                  // counted from 1
+    int number = 1;                   // counted from 1
     double width = 210, height = 297; // mm
-    std::vector<Shade> shades;       // painted first
+    std::vector<Shade> shades;        // painted first
     std::vector<Rule> rules;
     std::vector<Run> runs; // in reading order
 };

@@ -23,9 +23,12 @@ int Place(const Run& run) {
     const double start = run.box.x / ColumnWidth, end = (run.box.x + run.box.width) / ColumnWidth;
     const int length = Len(run.text);
     switch (run.align) {
-    case Align::Right: return static_cast<int>(std::lround(end)) - length;
-    case Align::Center: return static_cast<int>(std::lround((start + end - length) / 2));
-    case Align::Left: break;
+    case Align::Right:
+        return static_cast<int>(std::lround(end)) - length;
+    case Align::Center:
+        return static_cast<int>(std::lround((start + end - length) / 2));
+    case Align::Left:
+        break;
     }
     return static_cast<int>(std::lround(start));
 }

@@ -18,10 +18,10 @@ namespace varnik::reports {
 
 // The numbers of the engine's own errors (ado::DataError).
 inline constexpr long MissingDefinition = 2001; // no such file in the report folder
-inline constexpr long BrokenDefinition = 2002;  // the file cannot be read; the description names file and line
-inline constexpr long BrokenFormula = 2003;     // "Judul1 ='Toko O'Brien'"
-inline constexpr long NoDocument = 2004;        // a document report without the document's number
-inline constexpr long CannotWrite = 2005;       // an output file cannot be written
+inline constexpr long BrokenDefinition = 2002; // the file cannot be read; the description names file and line
+inline constexpr long BrokenFormula = 2003;    // "Judul1 ='Toko O'Brien'"
+inline constexpr long NoDocument = 2004;       // a document report without the document's number
+inline constexpr long CannotWrite = 2005;      // an output file cannot be written
 
 struct Definition;
 class Rows;
@@ -58,9 +58,9 @@ public:
     std::string WindowTitle() const; // the request's, else the report's own title
     std::string Title() const;       // as printed: parameter Judul, the request's title, the definition's
     long RowCount() const;
-    int PageCount() const; // at least 1
-    double PageWidth() const;  // mm
-    double PageHeight() const; // mm
+    int PageCount() const;            // at least 1
+    double PageWidth() const;         // mm
+    double PageHeight() const;        // mm
     Page BuildPage(int number) const; // 1 to PageCount()
 
     // The pages as fixed-width text; all pages are parted by a form feed.

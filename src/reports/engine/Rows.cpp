@@ -56,13 +56,17 @@ std::string_view Rows::Text(std::size_t row, int column) const {
 Value Rows::Get(std::size_t row, int column) const {
     const Cell cell = At(row, column);
     switch (cell.kind) {
-    case Kind::Boolean: return Value(cell.bits != 0);
-    case Kind::Number: return Value(std::bit_cast<double>(cell.bits));
-    case Kind::Text: return Value(Text(row, column));
+    case Kind::Boolean:
+        return Value(cell.bits != 0);
+    case Kind::Number:
+        return Value(std::bit_cast<double>(cell.bits));
+    case Kind::Text:
+        return Value(Text(row, column));
     case Kind::Date:
         return Value(DateTime{static_cast<std::int32_t>(cell.bits >> 32),
                               static_cast<std::int32_t>(cell.bits & 0xFFFFFFFF)});
-    case Kind::Null: break;
+    case Kind::Null:
+        break;
     }
     return {};
 }

@@ -31,8 +31,8 @@ int Compare(const Rows& rows, std::uint32_t a, std::uint32_t b, int column) {
         const auto lower = [](unsigned char c) { return c >= 'A' && c <= 'Z' ? c + 32 : +c; };
         const std::size_t shared = std::min(left.size(), right.size());
         for (std::size_t i = 0; i < shared; ++i) {
-            const int difference = lower(static_cast<unsigned char>(left[i])) -
-                                   lower(static_cast<unsigned char>(right[i]));
+            const int difference =
+                lower(static_cast<unsigned char>(left[i])) - lower(static_cast<unsigned char>(right[i]));
             if (difference != 0) return difference;
         }
         return left.size() < right.size() ? -1 : left.size() > right.size() ? 1 : 0;
@@ -75,7 +75,7 @@ void Table::ChooseColumns() {
         } else if (column.formula) {
             slot.formula = *column.formula;
             slot.formula.Bind(rows_);
-            there = slot.formula.HasColumns();
+            there = slot.formula.HasAllColumns();
         } else if (!column.text.Empty()) {
             for (const std::string& name : column.text.Names()) there = there || rows_.Find(name) >= 0;
         }
@@ -279,12 +279,37 @@ std::string Table::NumberText(double number, const std::string& mask) const {
 }
 
 std::string Table::GroupSum(const Slot& slot, std::size_t level, std::size_t group) const {
-    return FigureText(slot, groups_[level].sums[group * static_cast<std::size_t>(sums_) +
-                                                static_cast<std::size_t>(slot.sum)]);
+    return FigureText(
+        slot,
+        groups_[level].sums[group * static_cast<std::size_t>(sums_) + static_cast<std::size_t>(slot.sum)]);
 }
 
 std::string Table::GrandSum(const Slot& slot) const {
     return FigureText(slot, grandSums_[static_cast<std::size_t>(slot.sum)]);
+}
+
+std::size_t Table::LineCount() const { return summary_ ? groups_.back().spans.size() : order_.size(); }
+
+std::vector<std::string> Table::LineHeadings() const {
+    std::vector<std::string> headings;
+    for (const Group& group : definition_.groups)
+        if (!group.heading.empty()) headings.push_back(group.heading);
+    for (const Slot& slot : slots_) headings.push_back(slot.column->heading);
+    return headings;
+}
+
+std::vector<Value> Table::LineValues(std::size_t line) const {
+    std::vector<Value> values;
+    const std::uint32_t row = summary_ ? groups_.back().spans[line].first : static_cast<std::uint32_t>(line);
+    for (std::size_t level = 0; level < definition_.groups.size(); ++level)
+        if (const Group& group = definition_.groups[level]; !group.heading.empty())
+            values.push_back(Value(Fill(group.header, groups_[level].spans[GroupOf(level, row)])));
+    for (const Slot& slot : slots_)
+        values.push_back(summary_ && slot.sum >= 0
+                             ? Value(groups_.back().sums[line * static_cast<std::size_t>(sums_) +
+                                                         static_cast<std::size_t>(slot.sum)])
+                             : CellValue(slot, row));
+    return values;
 }
 
 std::string Table::Fill(const Template& text, Span span, bool decimals) const {

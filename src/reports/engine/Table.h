@@ -27,8 +27,8 @@ struct Slot {
     bool figures = false;
     Align align = Align::Left;
     std::string mask;
-    int sum = -1;             // which of the sums; -1 for none
-    double x = 0, width = 0;  // mm, from the left edge of the table
+    int sum = -1;            // which of the sums; -1 for none
+    double x = 0, width = 0; // mm, from the left edge of the table
 };
 
 class Table {
@@ -62,6 +62,12 @@ public:
     std::string GroupSum(const Slot& slot, std::size_t level, std::size_t group) const;
     std::string GrandSum(const Slot& slot) const;
     std::string FigureText(const Slot& slot, double number) const;
+
+    // The rows as a spreadsheet takes them: one line for each row, or for each group in the summary form.
+    // Groups with a heading of their own stand as columns in front.
+    std::size_t LineCount() const;
+    std::vector<std::string> LineHeadings() const;
+    std::vector<Value> LineValues(std::size_t line) const;
 
     // Fills a template from the first row of the span, its sums, and the request. Figures show decimals
     // when they have some; with `decimals` always, so that figures under each other line up.

@@ -1,0 +1,74 @@
+// Every shipped definition, run on fixed rows, says what its expectation in tests/reports says. A new
+// definition is a new row of the table; without one, or without an expectation, the test fails. Run with
+// VARNIK_WRITE_EXPECTATIONS=1 to write expectations, then read them.
+
+#include "tests/unit/reports/ReportCases.h"
+
+#include <gmock/gmock.h>
+
+using namespace varnik;
+using namespace varnik::reports;
+
+namespace {
+
+struct Case {
+    std::string expectation; // tests/reports/<this>.txt
+    std::string file;
+    std::map<std::string, std::string> parameters;
+    std::string rows;
+};
+
+const std::vector<Case> Cases = {
+    {"Invoice",
+     "Invoice.rpt",
+     {},
+     R"(NoInvoice|CusPO|TglInvoice@|TglJtp@|Netto#|PPN#|Total#|Terbilang|KodeBrg|Qty#|Satuan|Harga#|Total2#|NamaCus|Alamat_1|Alamat_2|Alamat_3|Kota|NamaBrg|Disc#|KodeCus
+000000012300|PO-7|2026-11-22|2026-12-22|1236363.64|123636.36|1360000||0000000001|12|SAK|65000|780000|CV Bangun Persada|Jl. Asia Afrika 5|||Bandung|Semen Portland 40 kg|0|0000000001
+000000012300|PO-7|2026-11-22|2026-12-22|1236363.64|123636.36|1360000||0000000002|2.5|M3|250000|580000|CV Bangun Persada|Jl. Asia Afrika 5|||Bandung|Pasir beton dari Cimalaka, dicuci dan disaring, diantar sampai ke tempat pembangunan|45000|0000000001
+)"},
+    {"persediaan",
+     "persediaan.rpt",
+     {},
+     R"(KodeBrg|NamaBrg|JenisBrg|JenisProduk|Satuan|OnHand#|HargaBeli#|HargaJual#|KodeSup
+0000000002|Pasir beton|002|Bahan|M3|17.5|200000|250000|0000000001
+0000000001|Semen Portland 40 kg|002|Bahan|SAK|120|58000|65000|0000000001
+0000000003|Antar barang|001|Jasa|KALI|0|0|50000|
+)"},
+    {"persediaan-balance",
+     "Persediaan.rpt",
+     {},
+     R"(KodeBrg|NamaBrg|JenisBrg|Satuan|OnHand#|HPPRata#|JenisProduk
+0000000003|Antar barang|001|KALI|0|0|Jasa
+0000000001|Semen Portland 40 kg|002|SAK|120|57250.5|Bahan
+0000000002|Pasir beton|002|M3|17.5|200000|Bahan
+)"},
+    {"persediaan-empty", "persediaan.rpt", {}, "KodeBrg|NamaBrg|JenisBrg|OnHand#"},
+};
+
+std::string Printed(const Case& test) {
+    return Report(LoadDefinition("Report", test.file), RowsOf(test.rows), FactsOf(test.parameters)).Text();
+}
+
+} // namespace
+
+TEST(Definitions, SayWhatIsExpected) {
+    for (const Case& test : Cases) {
+        SCOPED_TRACE(test.expectation);
+        const std::filesystem::path expectation = "tests/reports/" + test.expectation + ".txt";
+        const std::string printed = Printed(test);
+        if (std::getenv("VARNIK_WRITE_EXPECTATIONS") != nullptr)
+            std::ofstream(expectation, std::ios::binary) << printed;
+        ASSERT_TRUE(std::filesystem::exists(expectation)) << printed;
+        EXPECT_EQ(printed, FileText(expectation));
+    }
+}
+
+TEST(Definitions, AllHaveACase) {
+    for (const auto& entry : std::filesystem::directory_iterator("Report")) {
+        const std::string file = entry.path().filename().string();
+        if (entry.path().extension() != ".rpt") continue;
+        EXPECT_TRUE(std::any_of(Cases.begin(), Cases.end(),
+                                [&](const Case& test) { return EqualsNoCase(test.file, file); }))
+            << file << " has no row in the table of cases";
+    }
+}
