@@ -1,0 +1,89 @@
+#pragma once
+// What all screens of documents and vouchers share. Such a screen holds its document in its fields and
+// grid only, and stands in one of three modes: browsing, entering a new document, or choosing one to
+// delete. Two rows of buttons take turns: FrameBawah while browsing, FrameAtas (Save and Cancel) while
+// something is being entered. What the buttons do beyond that is the screen's own.
+
+#include "common/Numbering.h"
+#include "platform/desktop/Failure.h"
+#include "platform/desktop/ProgramScreen.h"
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+namespace varnik::document {
+
+enum class EntryMode { Browsing = 0, New = 1, Deleting = 3 };
+
+class DocumentScreen : public ProgramScreen {
+public:
+    void Load() override;
+    void Unload() override;
+    void PreviewKeyDown(forms::Key& key) override;
+
+protected:
+    DocumentScreen(Services& services, std::string name, std::string caption);
+
+    forms::Frame FrameBawah;
+    forms::Button bttnNew, bttnDel, bttnFind, bttnPrint, bttnClose;
+    forms::Frame FrameAtas;
+    forms::Button bttnSave, bttnCancel;
+
+    // The steps behind the buttons. New and Delete are reached only with the right they need; without it
+    // the button does nothing, silently.
+    virtual void StartNew() = 0;
+    virtual void StartDelete() = 0;
+    virtual void CancelEntry() = 0;
+    virtual void Find() = 0;
+    virtual void Print() = 0;
+    // Save: the tests (a message and false stop it), then one of the two routines that write, then the end.
+    virtual bool TestsPassed() = 0;
+    virtual void Post() = 0;
+    virtual void Reverse() = 0;
+    virtual void EntryEnded() = 0;
+
+    EntryMode Mode() const { return entryMode_; }
+    bool Browsing() const { return entryMode_ == EntryMode::Browsing; }
+    void SetMode(EntryMode mode) { entryMode_ = mode; }
+    void ShowEntryFrame();
+    void ShowBrowseFrame();
+
+    // Every character typed into these fields turns to a capital.
+    static void TypesCapitals(std::initializer_list<forms::Control*> fields);
+    // F2 moves from each of these fields to the one before it.
+    void MovesBackAlong(std::vector<forms::Control*> fields);
+    // While F2 moves back, a field's leaving does its work but does not send the focus onwards.
+    bool MovingBack() const { return movingBack_; }
+    void GoOn(forms::Control& next);
+
+    // The number that a new document of this user gets. It is reserved by nothing.
+    std::string NextNumber(Document document);
+
+    // The connection of the screen's life: look-ups and lists.
+    ado::Connection& Data() { return connection_; }
+    // Opens a look-up. A statement that fails (a quote in a field) finds nothing, as on every screen.
+    bool Found(ado::Recordset& rows, const std::string& sql);
+
+private:
+    void Save();
+
+    ado::Connection connection_;
+    EntryMode entryMode_ = EntryMode::Browsing;
+    std::vector<std::vector<forms::Control*>> backwards_;
+    bool movingBack_ = false;
+};
+
+// The hourglass for as long as it lives.
+class Hourglass {
+public:
+    explicit Hourglass(Desktop& desktop) : desktop_(desktop) { desktop_.Hourglass(true); }
+    ~Hourglass() { desktop_.Hourglass(false); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+
+private:
+    Desktop& desktop_;
+};
+
+} // namespace varnik::document
