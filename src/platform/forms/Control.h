@@ -68,8 +68,10 @@ public:
     std::function<void()> onChange;
     std::function<void()> onClick;
     std::function<void()> onDoubleClick;
-    std::function<void()> onEnter; // got the focus
-    std::function<void()> onLeave; // lost it
+    std::function<void()> onMouseDown; // the left button, pressed on labels and pictures
+    std::function<void()> onMouseUp;   // and released
+    std::function<void()> onEnter;     // got the focus
+    std::function<void()> onLeave;     // lost it
     std::function<void(Key&)> onKeyDown;
     std::function<void(Key&)> onKeyUp;
     std::function<void(KeyPress&)> onKeyPress;

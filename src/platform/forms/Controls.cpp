@@ -7,6 +7,12 @@
 
 namespace varnik::forms {
 
+void Label::SetBorder(bool border) {
+    if (border_ == border) return;
+    border_ = border;
+    Changed();
+}
+
 void TextControl::SetText(std::string text) {
     if (text_ == text) return;
     text_ = std::move(text);

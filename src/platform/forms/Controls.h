@@ -14,6 +14,11 @@ class Label : public Control {
 public:
     Label(Screen& screen, std::string name, std::string caption = "")
         : Control(screen, Kind::Label, std::move(name), std::move(caption)) {}
+    bool Border() const { return border_; } // gives a label that is clicked a pressed look
+    void SetBorder(bool border);
+
+private:
+    bool border_ = false;
 };
 
 class Button : public Control {
