@@ -1,0 +1,275 @@
+#include "stock/Lots.h"
+
+#include "common/Numbers.h"
+#include "common/Text.h"
+
+namespace varnik::stock {
+namespace {
+
+// What is left of a quantity after taking all of it may be the dust of binary fractions.
+constexpr double Dust = 1e-9;
+
+// Numbers come plain from the database; the machine's settings play no part.
+double Amount(ado::Recordset& rows, const char* column) {
+    static const Regional plain;
+    return NullToNumber(rows[column].Value(), plain);
+}
+
+std::string TextOf(ado::Recordset& rows, const char* column) {
+    static const Regional plain;
+    return NullToText(rows[column].Value(), plain);
+}
+
+// The row that a look-up found, its column raised by an amount. Nothing when it found none.
+void Raise(Guard& step, ado::Recordset& found, const char* column, double amount) {
+    bool any = false;
+    step.Step([&] { any = !found.Empty(); });
+    if (any) step.PutRow(found, {{column, [&] { return Amount(found, column) + amount; }}});
+}
+
+// Walks rows in the order of entry. A row that the body moves off or deletes is not visited again.
+template <typename Body>
+void ForEachRow(Guard& step, ado::Recordset& rows, const Body& body) {
+    const auto remain = [&] {
+        bool more = false;
+        step.Step([&] { more = !rows.Eof(); });
+        return more;
+    };
+    while (remain()) {
+        if (!body()) return;
+        bool moved = false;
+        step.Step([&] {
+            rows.MoveNext();
+            moved = true;
+        });
+        if (!moved) return; // passed over: the walk cannot go on
+    }
+}
+
+} // namespace
+
+double ConsumeLots(Guard& step, ado::Connection& connection, const SaleLine& line) {
+    double wanted = line.Qty * line.Qty2, cost = 0, running = line.OnHand;
+    double open = 0, unit = 0, taken = 0;
+    ado::Recordset lots, ledger, drawn;
+    step.Step([&] {
+        lots.Open("Select  * From FakturDetail Where KodeBrg = '" + line.KodeBrg + "' and QtySisa > 0",
+                  connection);
+    });
+    step.Step([&] {
+        drawn.Open("Select * from PersediaanJual Where NoInvoice ='" + line.NoInvoice + "' and KodeBrg ='" +
+                       line.KodeBrg + "'",
+                   connection);
+    });
+
+    const Movement sale{.NoJurnal = movement::Sale,
+                        .NoRef = line.NoInvoice,
+                        .Tanggal = line.Tanggal,
+                        .Memo = "Sales Inv No. " + line.NoInvoice + " Cus. " + Trim(line.NamaCus),
+                        .goods = {line.KodeBrg, line.NamaBrg, line.JenisBrg, line.Satuan, line.Qty2}};
+    const auto addMovement = [&] {
+        Movement row = sale;
+        row.Qty2 = taken;
+        row.Harga2 = unit;
+        row.Saldo = running;
+        AddMovement(step, ledger, row);
+    };
+    const auto rememberLot = [&] {
+        step.AddRow(drawn, {{"NoInvoice", line.NoInvoice},
+                            {"Tanggal", line.Tanggal},
+                            {"NoPO", lots["NoFaktur"]},
+                            {"KodeBrg", lots["KodeBrg"]},
+                            {"Qty", taken},
+                            {"Harga", unit}});
+    };
+
+    if (!lots.IsOpen()) return cost;
+    ForEachRow(step, lots, [&] {
+        if (wanted <= Dust) return false;
+        step.Step([&] { open = Amount(lots, "QtySisa"); });
+        if (open <= 0) return true;
+        step.Step(
+            [&] { unit = ado::Divide(Amount(lots, "Total"), Amount(lots, "Qty") * Amount(lots, "Qty2")); });
+        const bool enough = open > wanted;
+        taken = enough ? wanted : open;
+        running -= taken;
+        cost += taken * unit;
+        OpenFirstLedgerRow(step, connection, line.KodeBrg, ledger);
+        Raise(step, ledger, "QtySisa", -taken);
+        if (enough) {
+            step.PutRow(lots, {{"QtySisa", open - wanted}});
+            addMovement();
+            rememberLot();
+            wanted = 0;
+        } else {
+            rememberLot();
+            addMovement();
+            wanted -= taken;
+            step.PutRow(lots, {{"QtySisa", 0}});
+        }
+        return true;
+    });
+    return cost;
+}
+
+void RestoreLots(Guard& step, ado::Connection& connection, const RestoredLine& line,
+                 ado::Recordset& product) {
+    double running = line.OnHand, quantity = 0, price = 0;
+    std::string purchase;
+    ado::Recordset drawn, ledger;
+    step.Step([&] {
+        drawn.Open("Select * from PersediaanJual Where NoInvoice ='" + line.NoInvoice + "' and KodeBrg ='" +
+                       line.KodeBrg + "'",
+                   connection);
+    });
+    step.Step([&] { ledger.Open("Select * from Persediaan", connection); });
+
+    if (!drawn.IsOpen()) return;
+    ForEachRow(step, drawn, [&] {
+        step.Step([&] { quantity = Amount(drawn, "Qty"); });
+        step.Step([&] { purchase = TextOf(drawn, "NoPO"); });
+        step.Step([&] { price = Amount(drawn, "Harga"); });
+        running += quantity;
+        AddMovement(step, ledger,
+                    {.NoJurnal = movement::SaleDeleted,
+                     .NoRef = line.NoInvoice,
+                     .Tanggal = line.Tanggal,
+                     .Memo = line.Memo,
+                     .goods = GoodsOf(step, line.KodeBrg, product),
+                     .Qty1 = quantity,
+                     .Harga1 = price,
+                     .Saldo = running});
+        ado::Recordset lot, entry;
+        step.Step([&] {
+            lot.Open("Select * from FakturDetail Where NoFaktur='" + purchase + "' and KodeBrg ='" +
+                         line.KodeBrg + "'",
+                     connection);
+        });
+        Raise(step, lot, "QtySisa", quantity);
+        // The lot's own row this time, where the sale lowered the product's first open one.
+        step.Step([&] {
+            entry.Open("Select * from Persediaan Where KodeBrg = '" + line.KodeBrg +
+                           "' and NoJurnal='11' and NoRef = '" + purchase + "'",
+                       connection);
+        });
+        Raise(step, entry, "QtySisa", quantity);
+        step.Step([&] { drawn.Delete(); });
+        return true;
+    });
+}
+
+double ReturnLots(Guard& step, ado::Connection& connection, const ReturnLine& line, ado::Recordset& product) {
+    double wanted = line.Qty * line.Qty2, cost = 0, running = line.OnHand;
+    double sold = 0, price = 0;
+    std::string purchase;
+    ado::Recordset drawn, ledger;
+    step.Step([&] {
+        drawn.Open("Select * From PersediaanJual  Where  NoInvoice ='" + line.NoInvoice + "' and KodeBrg ='" +
+                       line.KodeBrg + "' ",
+                   connection);
+    });
+    step.Step([&] { ledger.Open("Select * from Persediaan", connection); });
+
+    if (!drawn.IsOpen()) return cost;
+    ForEachRow(step, drawn, [&] {
+        if (wanted <= Dust) return false;
+        step.Step([&] { sold = Amount(drawn, "Qty"); });
+        step.Step([&] { price = Amount(drawn, "Harga"); });
+        step.Step([&] { purchase = TextOf(drawn, "NoPO"); });
+        // Rows that earlier returns emptied stay, and have nothing to give back.
+        if (sold <= 0) return true;
+        const double given = std::min(sold, wanted);
+        wanted -= given;
+        running += given;
+        step.Step([&] {
+            connection.Execute("Update FakturDetail Set QtySisa =QtySisa + " + SqlNumber(given) +
+                               " Where (NoFaktur='" + purchase + "')  and (KodeBrg = '" + line.KodeBrg +
+                               "')");
+        });
+        step.Step([&] {
+            connection.Execute("Update InvoiceDetail Set QtyRetur = QtyRetur + " + SqlNumber(given) +
+                               " Where (NoInvoice='" + line.NoInvoice + "')  and (KodeBrg = '" +
+                               line.KodeBrg + "')");
+        });
+        ado::Recordset returned;
+        step.Step([&] {
+            returned.Open("Select * From PersediaanRetur  Where  ReturID='" + line.ReturID + "'", connection);
+        });
+        step.AddRow(returned, {{"ReturID", line.ReturID},
+                               {"Tanggal", line.Tanggal},
+                               {"NoInvoice", line.NoInvoice},
+                               {"NoPO", purchase},
+                               {"KodeBrg", line.KodeBrg},
+                               {"Qty", given},
+                               {"Harga", price}});
+        // On the side of goods out, with a negative quantity: the stock reports sum it so.
+        Goods goods = GoodsOf(step, line.KodeBrg, product);
+        goods.NamaBrg = line.NamaBrg;
+        AddMovement(step, ledger,
+                    {.NoJurnal = movement::SaleReturn,
+                     .NoRef = line.ReturID,
+                     .Tanggal = line.Tanggal,
+                     .Memo = "Sales Returns No " + line.ReturID,
+                     .goods = goods,
+                     .Qty2 = -given,
+                     .Harga2 = price,
+                     .Saldo = running});
+        cost += given * price;
+        step.PutRow(drawn, {{"Qty", sold - given}});
+        return true;
+    });
+    return cost;
+}
+
+void ReverseReturnLots(Guard& step, ado::Connection& connection, const ReversedReturnLine& line,
+                       ado::Recordset& product) {
+    double running = line.OnHand, quantity = 0, price = 0;
+    std::string purchase, code;
+    ado::Recordset returned, ledger;
+    step.Step([&] {
+        returned.Open("Select * From PersediaanRetur  Where  ReturID='" + line.ReturID + "'", connection);
+    });
+    step.Step([&] { ledger.Open("Select * from Persediaan", connection); });
+
+    if (!returned.IsOpen()) return;
+    ForEachRow(step, returned, [&] {
+        step.Step([&] { code = TextOf(returned, "KodeBrg"); });
+        if (!EqualsNoCase(code, line.KodeBrg)) return true; // another line's goods
+        step.Step([&] { quantity = Amount(returned, "Qty"); });
+        step.Step([&] { price = Amount(returned, "Harga"); });
+        step.Step([&] { purchase = TextOf(returned, "NoPO"); });
+        running -= quantity;
+        ado::Recordset drawn, lot, sold;
+        step.Step([&] {
+            drawn.Open("Select * From PersediaanJual  Where  NoInvoice ='" + line.NoInvoice +
+                           "' and KodeBrg ='" + line.KodeBrg + "' and  NoPo ='" + purchase + "'",
+                       connection);
+        });
+        Raise(step, drawn, "Qty", quantity);
+        step.Step([&] {
+            lot.Open("Select * From FakturDetail  Where  NoFaktur='" + purchase + "' and KodeBrg = '" +
+                         line.KodeBrg + "'",
+                     connection);
+        });
+        Raise(step, lot, "QtySisa", -quantity);
+        step.Step([&] {
+            sold.Open("Select * From InvoiceDetail Where  NoInvoice='" + line.NoInvoice +
+                          "'  and KodeBrg = '" + line.KodeBrg + "'",
+                      connection);
+        });
+        Raise(step, sold, "QtyOrder", -quantity); // not QtyRetur, which the return raised
+        AddMovement(step, ledger,
+                    {.NoJurnal = movement::SaleReturnDeleted,
+                     .NoRef = line.ReturID,
+                     .Tanggal = line.Tanggal,
+                     .Memo = line.Memo,
+                     .goods = GoodsOf(step, line.KodeBrg, product),
+                     .Qty2 = quantity,
+                     .Harga2 = price,
+                     .Saldo = running});
+        step.Step([&] { returned.Delete(); });
+        return true;
+    });
+}
+
+} // namespace varnik::stock
