@@ -93,15 +93,6 @@ void DocumentScreen::PreviewKeyDown(forms::Key& key) {
     }
 }
 
-std::string DocumentScreen::NextNumber(Document document) {
-    const NumberingRule& rule = NumberingOf(document);
-    ado::Connection connection(services_.data, Sess().ConnectionString);
-    ado::Recordset highest(std::string(rule.statement) + Sess().NoUser + "'", connection);
-    std::optional<std::string> counter;
-    if (!highest.Empty()) counter = TextOf(highest[0]);
-    return NumberAfter(counter, rule.reading, Sess().NoUser);
-}
-
 bool DocumentScreen::Found(ado::Recordset& rows, const std::string& sql) {
     bool found = false;
     Resume([&] {

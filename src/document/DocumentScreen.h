@@ -4,7 +4,6 @@
 // delete. Two rows of buttons take turns: FrameBawah while browsing, FrameAtas (Save and Cancel) while
 // something is being entered. What the buttons do beyond that is the screen's own.
 
-#include "common/Numbering.h"
 #include "platform/desktop/Failure.h"
 #include "platform/desktop/ProgramScreen.h"
 
@@ -56,9 +55,6 @@ protected:
     // While F2 moves back, a field's leaving does its work but does not send the focus onwards.
     bool MovingBack() const { return movingBack_; }
     void GoOn(forms::Control& next);
-
-    // The number that a new document of this user gets. It is reserved by nothing.
-    std::string NextNumber(Document document);
 
     // The connection of the screen's life: look-ups and lists.
     ado::Connection& Data() { return connection_; }
