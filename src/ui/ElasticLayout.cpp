@@ -1,0 +1,85 @@
+#include "ui/ElasticLayout.h"
+
+#include <QFrame>
+#include <QLayout>
+#include <QPushButton>
+
+namespace varnik::ui {
+
+namespace {
+
+ElasticControl Measure(const QWidget& widget) {
+    ElasticControl control;
+    if (widget.property("picture").toBool())
+        control.kind = widget.objectName().compare(QLatin1String("Logo"), Qt::CaseInsensitive) == 0
+                           ? ElasticControl::Kind::Logo
+                           : ElasticControl::Kind::Image;
+    control.top = static_cast<std::int16_t>(widget.y());
+    control.left = static_cast<std::int16_t>(widget.x());
+    control.height = static_cast<std::int16_t>(widget.height());
+    control.width = static_cast<std::int16_t>(widget.width());
+    control.fontSize = static_cast<std::int16_t>(widget.font().pixelSize());
+    return control;
+}
+
+} // namespace
+
+bool IsContainer(const QWidget& widget) {
+    return widget.metaObject() == &QFrame::staticMetaObject && !widget.property("statusbar").toBool();
+}
+
+void SettleLayouts(QWidget& container) {
+    if (QLayout* layout = container.layout()) {
+        layout->invalidate();
+        layout->activate();
+    }
+    for (QObject* child : container.children())
+        if (auto* widget = qobject_cast<QWidget*>(child); widget && IsContainer(*widget))
+            SettleLayouts(*widget);
+}
+
+void ElasticLayout::Collect(QWidget& container) {
+    delete container.layout();
+    for (QObject* child : container.children()) {
+        auto* widget = qobject_cast<QWidget*>(child);
+        if (!widget || widget->isWindow()) continue;
+        widgets_.push_back(widget);
+        shown_.push_back(Measure(*widget));
+        // The sizes that shaped the layout must not hold against scaling.
+        widget->setMinimumSize(0, 0);
+        widget->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        if (IsContainer(*widget)) Collect(*widget);
+    }
+}
+
+void ElasticLayout::Capture(QWidget& window) {
+    const ElasticSize size{window.height(), window.width()};
+    Collect(window);
+    elastic_.Init(size, shown_);
+    captured_ = true;
+    window.setMinimumSize((size.width + 1) / 2, (size.height + 1) / 2);
+}
+
+void ElasticLayout::Apply(QWidget& window) {
+    if (!captured_) return;
+    const std::vector<ElasticControl> places =
+        elastic_.FormResize(elastic_.Clamp(ElasticSize{window.height(), window.width()}));
+    window.setUpdatesEnabled(false);
+    for (std::size_t i = 0; i < widgets_.size() && i < places.size(); ++i) {
+        QWidget* widget = widgets_[i];
+        if (!widget || places[i] == shown_[i]) continue;
+        const ElasticControl& place = places[i];
+        widget->setGeometry(place.left, place.top, place.width, place.height);
+        if (place.fontSize > 0 && place.fontSize != shown_[i].fontSize) {
+            QFont font = widget->font();
+            font.setPixelSize(place.fontSize);
+            widget->setFont(font);
+            if (auto* button = qobject_cast<QPushButton*>(widget))
+                button->setIconSize(QSize(place.fontSize + 3, place.fontSize + 3));
+        }
+        shown_[i] = place;
+    }
+    window.setUpdatesEnabled(true);
+}
+
+} // namespace varnik::ui

@@ -1,0 +1,258 @@
+// The fields: text, drop-down, date, check box, option.
+
+#include "platform/forms/Controls.h"
+#include "ui/Binder.h"
+#include "ui/QtText.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QStyle>
+
+namespace varnik::ui {
+
+namespace {
+
+// Brings a text in without moving the cursor of who is typing.
+void Show(QLineEdit& edit, const std::string& text) {
+    const QString shown = ToQt(text);
+    if (edit.text() == shown) return;
+    const int cursor = edit.cursorPosition();
+    edit.setText(shown);
+    if (edit.hasFocus() && !edit.isReadOnly())
+        edit.setCursorPosition(std::min(cursor, int(shown.size())));
+    else
+        edit.setCursorPosition(0);
+}
+
+class LineBinding : public Binding {
+public:
+    LineBinding(Binder& binder, forms::TextBox& box, QLineEdit* edit)
+        : Binding(binder, box, edit), box_(box), edit_(edit) {
+        QObject::connect(edit, &QLineEdit::textChanged, edit, [this](const QString& text) {
+            if (refreshing_) return;
+            box_.Type(FromQt(text));
+            Refresh();
+        });
+        // The menu's own Paste would pass by the screen's filter; the keyboard's goes through it.
+        edit->setContextMenuPolicy(Qt::NoContextMenu);
+    }
+    void Refresh() override {
+        const QScopedValueRollback<bool> quiet(refreshing_, true);
+        edit_->setMaxLength(box_.MaxLength() > 0 ? box_.MaxLength() : 32767);
+        Show(*edit_, box_.Text());
+        edit_->setReadOnly(box_.Locked());
+        edit_->setAlignment((box_.RightAligned() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        edit_->setEchoMode(box_.Masked() ? QLineEdit::Password : QLineEdit::Normal);
+        SetLook(edit_, "locked", box_.Locked());
+    }
+    void SelectAll() override { edit_->selectAll(); }
+    void Insert(const QString& text) override { edit_->insert(text); }
+    bool EatsEnteringPress(const QObject*) const override { return true; }
+
+private:
+    forms::TextBox& box_;
+    QLineEdit* edit_;
+    bool refreshing_ = false;
+};
+
+class MemoBinding : public Binding {
+public:
+    MemoBinding(Binder& binder, forms::TextBox& box, QPlainTextEdit* edit)
+        : Binding(binder, box, edit), box_(box), edit_(edit) {
+        edit->setTabChangesFocus(true);
+        edit->setContextMenuPolicy(Qt::NoContextMenu);
+        QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [this] {
+            if (refreshing_) return;
+            box_.Type(FromQt(edit_->toPlainText()));
+            Refresh();
+        });
+    }
+    QList<QWidget*> EventSources() const override { return {edit_, edit_->viewport()}; }
+    void Refresh() override {
+        const QScopedValueRollback<bool> quiet(refreshing_, true);
+        if (edit_->toPlainText() != ToQt(box_.Text())) edit_->setPlainText(ToQt(box_.Text()));
+        edit_->setReadOnly(box_.Locked());
+        SetLook(edit_, "locked", box_.Locked());
+    }
+    void SelectAll() override { edit_->selectAll(); }
+    void Insert(const QString& text) override { edit_->insertPlainText(text); }
+    bool EatsEnteringPress(const QObject*) const override { return true; }
+
+private:
+    forms::TextBox& box_;
+    QPlainTextEdit* edit_;
+    bool refreshing_ = false;
+};
+
+class ComboBinding : public Binding {
+public:
+    ComboBinding(Binder& binder, forms::ComboBox& box, QComboBox* combo)
+        : Binding(binder, box, combo), box_(box), combo_(combo) {
+        if (!box.ListOnly()) {
+            combo->setEditable(true);
+            combo->setCompleter(nullptr);
+            combo->lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
+            QObject::connect(combo, &QComboBox::editTextChanged, combo, [this](const QString& text) {
+                if (refreshing_) return;
+                box_.Type(FromQt(text));
+                Refresh();
+            });
+        }
+        combo->setInsertPolicy(QComboBox::NoInsert);
+        combo->setMaxVisibleItems(14);
+        QObject::connect(combo, &QComboBox::activated, combo, [this](int index) {
+            if (refreshing_) return;
+            box_.Pick(index);
+            Refresh();
+        });
+    }
+    QList<QWidget*> EventSources() const override {
+        if (combo_->lineEdit()) return {combo_, combo_->lineEdit()};
+        return {combo_};
+    }
+    void Refresh() override {
+        const QScopedValueRollback<bool> quiet(refreshing_, true);
+        QStringList items;
+        for (const std::string& item : box_.Items()) items << ToQt(item);
+        if (items != items_) {
+            items_ = items;
+            combo_->clear();
+            combo_->addItems(items_);
+        }
+        if (QLineEdit* edit = combo_->lineEdit()) {
+            combo_->setCurrentIndex(box_.ListIndex());
+            Show(*edit, box_.Text());
+            edit->setReadOnly(box_.Locked());
+            if (box_.MaxLength() > 0) edit->setMaxLength(box_.MaxLength());
+        } else {
+            // A text that is no item shows all the same.
+            const int index = box_.ListIndex();
+            combo_->setCurrentIndex(index);
+            combo_->setPlaceholderText(index < 0 ? ToQt(box_.Text()) : QString());
+        }
+        SetLook(combo_, "locked", box_.Locked());
+    }
+    void SelectAll() override {
+        if (combo_->lineEdit()) combo_->lineEdit()->selectAll();
+    }
+    bool EatsEnteringPress(const QObject* pressed) const override { return pressed == combo_->lineEdit(); }
+    bool Refuses(const QObject* pressed) const override { return box_.Locked() && pressed == combo_; }
+    void Insert(const QString& text) override {
+        if (combo_->lineEdit()) combo_->lineEdit()->insert(text);
+    }
+    bool TakesKey(QKeyEvent& event) override {
+        const bool opens = event.key() == Qt::Key_F4 ||
+                           (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier));
+        return opens && !box_.Locked();
+    }
+
+private:
+    forms::ComboBox& box_;
+    QComboBox* combo_;
+    QStringList items_;
+    bool refreshing_ = false;
+};
+
+class DateBinding : public Binding {
+public:
+    DateBinding(Binder& binder, forms::DatePicker& picker, QDateEdit* edit)
+        : Binding(binder, picker, edit), picker_(picker), edit_(edit) {
+        edit->setCalendarPopup(true);
+        edit->setDisplayFormat(Format(binder.Settings()));
+        edit->setDateRange(QDate(1900, 1, 1), QDate(2099, 12, 31));
+        QObject::connect(edit, &QDateEdit::dateChanged, edit, [this](const QDate& date) {
+            if (refreshing_) return;
+            picker_.Pick(FromQt(date, picker_.Date().second));
+            Refresh();
+        });
+    }
+    QList<QWidget*> EventSources() const override { return {edit_, edit_->findChild<QLineEdit*>()}; }
+    void Refresh() override {
+        const QScopedValueRollback<bool> quiet(refreshing_, true);
+        const QDate date = ToQt(picker_.Date());
+        if (edit_->date() != date) edit_->setDate(date);
+    }
+    void SelectAll() override { edit_->setSelectedSection(edit_->sectionAt(0)); }
+    bool TakesKey(QKeyEvent& event) override {
+        return event.key() == Qt::Key_F4 ||
+               (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier));
+    }
+
+private:
+    static QString Format(const Regional& regional) {
+        const QString separator = QStringLiteral("'%1'").arg(ToQt(regional.dateSeparator));
+        const QString day = QStringLiteral("dd"), month = QStringLiteral("MM"), year = QStringLiteral("yyyy");
+        switch (regional.order) {
+        case DateOrder::DayMonthYear:
+            return day + separator + month + separator + year;
+        case DateOrder::YearMonthDay:
+            return year + separator + month + separator + day;
+        default:
+            return month + separator + day + separator + year;
+        }
+    }
+    forms::DatePicker& picker_;
+    QDateEdit* edit_;
+    bool refreshing_ = false;
+};
+
+// A check box or an option: the screen's Click turns it over, the widget then shows what came of it.
+template <typename ControlType, typename WidgetType>
+class TickBinding : public Binding {
+public:
+    TickBinding(Binder& binder, ControlType& tick, WidgetType* widget)
+        : Binding(binder, tick, widget), tick_(tick), widget_(widget) {
+        QObject::connect(widget, &WidgetType::clicked, widget, [this] {
+            const QPointer<QWidget> alive(widget_);
+            tick_.Owner().Click(tick_);
+            if (alive) Refresh();
+        });
+    }
+    void Refresh() override {
+        widget_->setText(ToQt(tick_.Caption()));
+        widget_->setChecked(tick_.Checked());
+    }
+
+private:
+    ControlType& tick_;
+    WidgetType* widget_;
+};
+
+} // namespace
+
+std::unique_ptr<Binding> MakeFieldBinding(Binder& binder, forms::Control& control, QWidget* parent) {
+    switch (control.GetKind()) {
+    case forms::Kind::TextBox: {
+        auto& box = static_cast<forms::TextBox&>(control);
+        if (box.MultiLine()) return std::make_unique<MemoBinding>(binder, box, new QPlainTextEdit(parent));
+        return std::make_unique<LineBinding>(binder, box, new QLineEdit(parent));
+    }
+    case forms::Kind::ComboBox:
+        return std::make_unique<ComboBinding>(binder, static_cast<forms::ComboBox&>(control),
+                                              new QComboBox(parent));
+    case forms::Kind::DatePicker:
+        return std::make_unique<DateBinding>(binder, static_cast<forms::DatePicker&>(control),
+                                             new QDateEdit(parent));
+    case forms::Kind::CheckBox:
+        return std::make_unique<TickBinding<forms::CheckBox, QCheckBox>>(
+            binder, static_cast<forms::CheckBox&>(control), new QCheckBox(parent));
+    case forms::Kind::OptionButton: {
+        auto* button = new QRadioButton(parent);
+        button->setAutoExclusive(false); // the screen knows the groups
+        return std::make_unique<TickBinding<forms::OptionButton, QRadioButton>>(
+            binder, static_cast<forms::OptionButton&>(control), button);
+    }
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace varnik::ui

@@ -1,0 +1,22 @@
+#pragma once
+// The drawn icons. A button's icon follows from its name, so that the same action looks the same on every
+// screen.
+
+#include <QColor>
+#include <QIcon>
+#include <QString>
+#include <string>
+
+namespace varnik::ui {
+
+// A line icon ("add", "print") in a colour, crisp at every size a widget asks for, greyed when disabled.
+QIcon DrawnIcon(const QString& name, const QColor& colour);
+
+// The icon's name for a control ("bttnAdd" -> "add", "mnuFileExit" -> "exit"), "" for none.
+QString IconOfControl(const std::string& controlName);
+// For a row of the menu tree, by its key; branches are folders.
+QString IconOfMenuKey(const std::string& key);
+// The picture behind an image control: a resource path.
+QString PictureOfControl(const std::string& controlName);
+
+} // namespace varnik::ui

@@ -1,0 +1,113 @@
+#include "ui/pages/Page.h"
+
+#include <algorithm>
+
+namespace varnik::ui {
+
+Node Field(std::string name, int characters) {
+    Node node{Node::Kind::Control, std::move(name), {}, {}};
+    node.width = characters;
+    return node;
+}
+
+Node Table(std::string name, int visibleRows) {
+    Node node = Field(std::move(name), visibleRows);
+    node.share = 1;
+    return node;
+}
+
+Node Picture(std::string name, int width, int height) {
+    Node node = Field(std::move(name), width);
+    node.height = height;
+    return node;
+}
+
+Node Button(std::string name) { return Field(std::move(name)); }
+
+Node Buttons(std::vector<std::string> names) {
+    std::vector<Node> nodes;
+    for (std::string& name : names) nodes.push_back(Button(std::move(name)));
+    return Row(std::move(nodes));
+}
+
+Node Row(std::vector<Node> children) { return {Node::Kind::Row, "", std::move(children), {}}; }
+Node Column(std::vector<Node> children) { return {Node::Kind::Column, "", std::move(children), {}}; }
+Node Form(std::vector<std::vector<Node>> rows) { return {Node::Kind::Form, "", {}, std::move(rows)}; }
+Node Card(std::string heading, Node content) {
+    return {Node::Kind::Card, std::move(heading), {std::move(content)}, {}};
+}
+Node Inside(std::string frame, Node content) {
+    return {Node::Kind::Inside, std::move(frame), {std::move(content)}, {}};
+}
+Node Stack(std::vector<Node> panels) { return {Node::Kind::Stack, "", std::move(panels), {}}; }
+Node Heading(std::string text) { return {Node::Kind::Heading, std::move(text), {}, {}}; }
+Node Spring() { return {Node::Kind::Spring, "", {}, {}}; }
+
+Overlay SearchPanelOver() {
+    Node content = Column(
+        {Row({Field("txtKreteria", 22).Label("Search by").Above(),
+              Field("txtValue", 30).Label("Value").Above(),
+              Column({Heading(" "), Row({Button("cmdExecute").Primary(), Button("cmdTutup")})}), Spring()}),
+         Table("grdCari", 10)});
+    return {"frmCari", std::move(content)};
+}
+
+Page MasterPage(std::string screen, Node fields, bool searchPanel) {
+    Node tools = Row({Button("bttnAdd"), Button("bttnEdit"), Button("bttnDelete"), Button("bttnFind"),
+                      Button("bttnPrint"), Spring(), Button("bttnOK").Primary(), Button("bttnCancel"),
+                      Spring(), Button("bttnClose")});
+    if (searchPanel)
+        return {std::move(screen),
+                Family::Master,
+                Column({std::move(tools), std::move(fields)}),
+                {SearchPanelOver()}};
+    return {std::move(screen), Family::Master,
+            Column({std::move(tools), std::move(fields), Table("grdCari", 10)})};
+}
+
+Page DocumentPage(std::string screen, DocumentParts parts) {
+    std::vector<Node> browse{Button("bttnNew").Primary(), Button("bttnDel"), Button("bttnFind"),
+                             Button("bttnPrint")};
+    for (std::string& further : parts.furtherButtons) browse.push_back(Button(std::move(further)));
+    browse.push_back(Spring());
+    browse.push_back(Button("bttnClose"));
+    Node tools =
+        Stack({Inside("FrameBawah", Row(std::move(browse))),
+               Inside("FrameAtas", Row({Button("bttnSave").Primary(), Button("bttnCancel"), Spring()}))});
+    Node foot =
+        Row({Inside(std::move(parts.entryFrame), std::move(parts.entry)).Share(1), std::move(parts.totals)});
+    Page page{std::move(screen),
+              Family::Document,
+              Column({std::move(tools), std::move(parts.header), Table(std::move(parts.lines), 8),
+                      std::move(foot)}),
+              {SearchPanelOver()}};
+    page.overlays.push_back({parts.lookup, Field(parts.lookup), Overlay::Where::UnderField, 460, 300});
+    return page;
+}
+
+Page DialogPage(std::string screen, Node content, std::vector<std::string> buttons) {
+    std::vector<Node> row{Spring()};
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        Node button = Button(buttons[i]);
+        button.primary = i == 0;
+        row.push_back(std::move(button));
+    }
+    return {std::move(screen), Family::Dialog, Column({std::move(content), Row(std::move(row))})};
+}
+
+const std::vector<Page>& AllPages() {
+    static const std::vector<Page> pages = [] {
+        std::vector<Page> all;
+        for (auto* folder : {ShellPages, MasterPages, SalesPages})
+            for (Page& page : folder()) all.push_back(std::move(page));
+        return all;
+    }();
+    return pages;
+}
+
+const Page* FindPage(const std::string& screen) {
+    const auto found = std::ranges::find(AllPages(), screen, &Page::screen);
+    return found == AllPages().end() ? nullptr : &*found;
+}
+
+} // namespace varnik::ui
