@@ -142,7 +142,7 @@ double DocumentFoot(const Table& table, double width, Page& page) {
         Page line;
         Line(line, totalsX + 2, padding, totalsWidth * 0.4 - 2, total.label,
              {large ? 11.0 : 9.5, large, large ? Accent : Muted});
-        Line(line, totalsX + totalsWidth * 0.4, padding, totalsWidth * 0.6 - 2, text,
+        Line(line, totalsX + totalsWidth * 0.4, padding, totalsWidth * 0.6 - CellPadding, text,
              {size, large, large ? Accent : Black, Align::Right});
         if (large && line.runs.size() == 2) line.runs[0].box.height = line.runs[1].box.height;
         Append(page, line, right);

@@ -7,7 +7,12 @@ namespace varnik::reports {
 
 namespace {
 
-std::string Folded(const std::string& text) { return Upper(text); }
+// Capitals of the plain letters; others are compared as they are.
+std::string Folded(std::string text) {
+    for (char& letter : text)
+        if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
+    return text;
+}
 
 } // namespace
 

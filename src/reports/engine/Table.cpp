@@ -2,6 +2,7 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "reports/engine/Draw.h"
 #include "reports/engine/TextMetrics.h"
 
 #include <algorithm>
@@ -13,7 +14,6 @@ namespace varnik::reports {
 
 namespace {
 
-constexpr double CellPadding = 1.0;  // mm on each side
 constexpr double SmallestSize = 6.5; // points; below it figures shrink one by one
 
 std::string Parameter(const Facts& facts, std::string_view name) {
@@ -194,11 +194,12 @@ void Table::ChooseMasks() {
 double Table::NeededWidth(const Slot& slot, double size) const {
     double needed = slot.column->width * size / definition_.fontSize;
     for (const std::string& word : Split(slot.column->heading, ' '))
-        needed = std::max(needed, TextWidth(word, size, true) + 2 * CellPadding);
+        needed = std::max(needed, TextWidth(word, size, true) + 2 * look::CellPadding);
     if (slot.figures) {
         const auto& [least, most] = extremes_[static_cast<std::size_t>(&slot - slots_.data())];
         for (const double number : {least, most})
-            needed = std::max(needed, TextWidth(NumberText(number, slot.mask), size, true) + 2 * CellPadding);
+            needed = std::max(needed,
+                              TextWidth(NumberText(number, slot.mask), size, true) + 2 * look::CellPadding);
     }
     return needed;
 }

@@ -1,0 +1,14 @@
+#pragma once
+// A page of a report on any paint device: the screen, the printer, a PDF.
+
+#include "reports/engine/Page.h"
+
+class QPainter;
+
+namespace varnik::ui {
+
+// Paints the page with its upper left corner at the painter's origin; one unit of the painter is one
+// millimetre. A text whose font runs wider than its box is narrowed, never cut.
+void PaintPage(QPainter& painter, const reports::Page& page);
+
+} // namespace varnik::ui
