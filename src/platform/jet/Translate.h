@@ -6,6 +6,7 @@
 #include "common/Regional.h"
 #include "common/Value.h"
 #include "platform/jet/Catalog.h"
+#include "platform/jet/Tokenizer.h"
 
 #include <stdexcept>
 #include <string>
@@ -16,11 +17,12 @@ namespace varnik::jet {
 
 struct Statement {
     std::string sql;               // for the engine, with ?1, ?2, ... where literals stood
-    std::vector<Value> parameters; // texts, dates (as DateTime), in order
+    std::vector<Value> parameters; // texts, dates (as DateTime), written numbers; in order
     bool isSelect = false;
     // The one base table of a plain "SELECT ... FROM table [WHERE ...] [ORDER BY ...]"; empty for joins,
-    // stored queries, grouping and aggregates.
+    // stored queries, grouping and aggregates. Its pieces follow, without their keywords.
     std::string singleTable;
+    std::string columns, from, where, order;
     bool hasOrder = false;
 };
 
@@ -30,10 +32,40 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// What a literal becomes when it is handed to the engine.
+struct Slot {
+    enum class Kind { Text, Date, Day, Amount, Pattern } kind;
+    int literal;
+};
+
+// A statement without its literals: the same for all texts that were joined at one place, so it is worth
+// keeping by its shape.
+struct Form {
+    Statement statement; // without parameters
+    std::vector<Slot> slots;
+};
+
+Form Rewrite(const Tokens& tokens, const Catalog& catalog);
+// The parameters of a form for the literals of one text. SyntaxError for a date that is none.
+std::vector<Value> Fill(const Form& form, const Tokens& tokens, const Regional& regional);
+
+// All three steps at once.
 Statement Translate(std::string_view sql, const Catalog& catalog, const Regional& regional);
 
-// The condition of a record find or filter ("KodeBrg='A1'", "UserId LIKE 'a*'", several joined by And) as
-// an engine condition with parameters.
+// One comparison of a record find or filter.
+struct Term {
+    enum class Operator { Equal, Unequal, Less, LessEqual, Greater, GreaterEqual, Like };
+    std::string column;
+    Operator comparison = Operator::Equal;
+    Value value; // a pattern has "%" and "_" as its wildcards
+};
+
+// The condition of a record find or filter ("KodeBrg='A1'", "UserId LIKE 'a*'", several joined by And).
+std::vector<Term> ParseCriterion(std::string_view criterion, const Regional& regional);
+// The same as an engine condition with parameters.
 Statement TranslateCriterion(std::string_view criterion, const Catalog& catalog, const Regional& regional);
+
+// Whether a text meets a pattern of "%" (any text) and "_" (any one character), without regard to case.
+bool Like(std::string_view pattern, std::string_view text);
 
 } // namespace varnik::jet
