@@ -39,6 +39,11 @@ inline constexpr long Overflow = 6;
 inline constexpr long NoCurrentRecord = 3021;
 inline constexpr long ObjectClosed = 3704;
 inline constexpr long SyntaxFault = -2147217900;
+inline constexpr long UnknownTable = -2147217865;
+inline constexpr long UnknownColumn = -2147217904;
+inline constexpr long NoSuchField = 3265;
+inline constexpr long RowGone = -2147217885;         // deleted by another or by this recordset
+inline constexpr long CannotChange = 3251;           // rows of a join or a stored query
 inline constexpr long ConstraintFault = -2147217887; // required, size, key
 inline constexpr long EngineFault = -2147467259;     // cannot open, read-only, full, locked, not a database
 
@@ -151,6 +156,10 @@ private:
     std::unique_ptr<Impl> impl_;
 };
 
+// Syncs what open connections wrote to the databases' logs and no close has synced yet: called when an
+// action has ended on a connection that stays open.
+void SyncWritten();
+
 // For first run, backup and restore.
 struct Index {
     std::string_view table, name, column;
@@ -167,6 +176,11 @@ void ExecuteNative(Connection& connection, std::string_view sql);
 // Copies the whole database, from a live one too, to a new file; checks the copy before it returns.
 // Nothing stays under the target's name when it fails.
 void CopyDatabase(const std::filesystem::path& from, const std::filesystem::path& to);
+// Puts the content of one database into another that may be in use: connections and recordsets on it stay
+// open and see the new content. The target is left as it was when the source is no sound database.
+void RestoreDatabase(const std::filesystem::path& from, const std::filesystem::path& to);
+// Lets go of the idle file handles that are kept for this database, so that the file can be moved.
+void ReleaseDatabase(const std::filesystem::path& file);
 // Nothing when the file is a sound database, else what is wrong with it in plain English.
 std::string CheckDatabase(const std::filesystem::path& file);
 

@@ -8,8 +8,8 @@ namespace varnik::jet {
 namespace {
 
 constexpr std::pair<std::string_view, Term::Operator> operators[] = {
-    {"=", Term::Operator::Equal},   {"<>", Term::Operator::Unequal},   {"<", Term::Operator::Less},
-    {"<=", Term::Operator::LessEqual}, {">", Term::Operator::Greater}, {">=", Term::Operator::GreaterEqual},
+    {"=", Term::Operator::Equal},      {"<>", Term::Operator::Unequal}, {"<", Term::Operator::Less},
+    {"<=", Term::Operator::LessEqual}, {">", Term::Operator::Greater},  {">=", Term::Operator::GreaterEqual},
     {"like", Term::Operator::Like}};
 
 // "*" and "?" as the engine knows them; "%" and "_" are wildcards already.
@@ -71,28 +71,32 @@ std::vector<Term> ParseCriterion(std::string_view criterion, const Regional& reg
         if (!known) throw SyntaxError("A criterion is a column, a comparison and a value.");
         ++at;
         term.value = Literal(tokens, at, regional);
-        if (term.comparison == Term::Operator::Like && term.value.IsText()) term.value = Pattern(term.value.Text());
+        if (term.comparison == Term::Operator::Like && term.value.IsText())
+            term.value = Pattern(term.value.Text());
         terms.push_back(std::move(term));
     }
     if (terms.empty()) throw SyntaxError("The criterion is empty.");
     return terms;
 }
 
+std::string ConditionOf(const Term& term, std::size_t parameter) {
+    std::string condition = "\"";
+    for (const char c : term.column) condition.append(c == '"' ? 2 : 1, c);
+    condition += "\" ";
+    if (term.value.IsNull())
+        return condition + (term.comparison == Term::Operator::Unequal ? "is not null" : "is null");
+    for (const auto& [word, comparison] : operators) {
+        if (comparison == term.comparison) condition += word;
+    }
+    return condition + " ?" + std::to_string(parameter);
+}
+
 Statement TranslateCriterion(std::string_view criterion, const Catalog&, const Regional& regional) {
     Statement statement;
     for (Term& term : ParseCriterion(criterion, regional)) {
-        std::string_view sign;
-        for (const auto& [word, comparison] : operators) {
-            if (comparison == term.comparison) sign = word;
-        }
         if (!statement.sql.empty()) statement.sql += " and ";
-        statement.sql += "\"" + term.column + "\" ";
-        if (term.value.IsNull()) {
-            statement.sql += term.comparison == Term::Operator::Unequal ? "is not null" : "is null";
-            continue;
-        }
-        statement.parameters.push_back(std::move(term.value));
-        statement.sql += std::string(sign) + " ?" + std::to_string(statement.parameters.size());
+        statement.sql += ConditionOf(term, statement.parameters.size() + 1);
+        if (!term.value.IsNull()) statement.parameters.push_back(std::move(term.value));
     }
     return statement;
 }

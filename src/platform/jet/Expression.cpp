@@ -40,9 +40,10 @@ constexpr FunctionRule functions[] = {
     {"round", -1, "", Content::Number},
 };
 
-constexpr std::string_view comparisons[] = {"=", "<>", "!=", "<", ">", "<=", ">=", "like", "between", "in", "is"};
-constexpr std::string_view otherBreaks[] = {"and",  "or",   "not", ",",   "as",   "case",
-                                            "when", "then", "else", "end", "asc",  "desc"};
+constexpr std::string_view comparisons[] = {
+    "=", "<>", "!=", "<", ">", "<=", ">=", "like", "between", "in", "is"};
+constexpr std::string_view otherBreaks[] = {"and",  "or",   "not",  ",",   "as",  "case",
+                                            "when", "then", "else", "end", "asc", "desc"};
 
 template <typename Words>
 bool OneOf(const Token& token, const Words& words) {
@@ -50,7 +51,9 @@ bool OneOf(const Token& token, const Words& words) {
                        [&](std::string_view word) { return Is(token, word); });
 }
 
-bool IsName(const Token& token) { return token.kind == TokenKind::Word || token.kind == TokenKind::Bracketed; }
+bool IsName(const Token& token) {
+    return token.kind == TokenKind::Word || token.kind == TokenKind::Bracketed;
+}
 
 Content ContentOfColumn(const Column& column) {
     if (column.type == ColumnType::Text) return Content::Text;
@@ -72,15 +75,19 @@ void ExpressionWriter::WriteToken(std::size_t index) {
         if (Is(token, "false") && !IsWord(index + 1, ".")) return Write("0");
         [[fallthrough]];
     case TokenKind::Number:
-    case TokenKind::Symbol: return Write(token.text);
+    case TokenKind::Symbol:
+        return Write(token.text);
     case TokenKind::Bracketed: {
         std::string name = "\"";
         for (const char c : token.text) name.append(c == '"' ? 2 : 1, c);
         return Write(name + "\"");
     }
-    case TokenKind::Amount: return Parameter(Slot::Kind::Amount, token.literal);
-    case TokenKind::Text: return Parameter(Slot::Kind::Text, token.literal);
-    case TokenKind::Date: return Parameter(Slot::Kind::Date, token.literal);
+    case TokenKind::Amount:
+        return Parameter(Slot::Kind::Amount, token.literal);
+    case TokenKind::Text:
+        return Parameter(Slot::Kind::Text, token.literal);
+    case TokenKind::Date:
+        return Parameter(Slot::Kind::Date, token.literal);
     }
 }
 
@@ -155,7 +162,8 @@ bool ExpressionWriter::Compares(Range range) const {
         }
         if (IsWord(i, "case")) ++cases;
         if (IsWord(i, "end")) --cases;
-        if (cases == 0 && (OneOf(At(i), comparisons) || IsWord(i, "and") || IsWord(i, "or") || IsWord(i, "not")))
+        if (cases == 0 &&
+            (OneOf(At(i), comparisons) || IsWord(i, "and") || IsWord(i, "or") || IsWord(i, "not")))
             return true;
     }
     return false;
@@ -290,10 +298,14 @@ Content ExpressionWriter::ContentOf(Range range) const {
     if (end < range.end && (IsWord(end, "*") || IsWord(end, "/"))) return Content::Number;
     switch (first.kind) {
     case TokenKind::Number:
-    case TokenKind::Amount: return Content::Number;
-    case TokenKind::Text: return Content::Text;
-    case TokenKind::Date: return Content::Date;
-    default: break;
+    case TokenKind::Amount:
+        return Content::Number;
+    case TokenKind::Text:
+        return Content::Text;
+    case TokenKind::Date:
+        return Content::Date;
+    default:
+        break;
     }
     if (Is(first, "(")) {
         if (IsWord(range.begin + 1, "select")) return Content::Unknown;

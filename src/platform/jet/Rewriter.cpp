@@ -24,7 +24,8 @@ public:
         if (all.Empty()) throw SyntaxError("The statement is empty.");
         for (std::size_t i = 0, depth = 0; i < all.end; ++i) {
             if (Word(i, "(")) ++depth;
-            if (Word(i, ")") && depth-- == 0) throw SyntaxError("A bracket in the statement was never opened.");
+            if (Word(i, ")") && depth-- == 0)
+                throw SyntaxError("A bracket in the statement was never opened.");
         }
         if (Word(0, "select") || Word(0, "(")) {
             form.statement.isSelect = true;
@@ -53,7 +54,8 @@ private:
     }
     bool IsJoinWord(std::size_t index) const {
         for (const std::string_view word : joinWords) {
-            if (Word(index, word)) return !Word(index + 1, "(") || Is(At(index), "join") || Is(At(index), ",");
+            if (Word(index, word))
+                return !Word(index + 1, "(") || Is(At(index), "join") || Is(At(index), ",");
         }
         return false;
     }
@@ -106,7 +108,8 @@ private:
             ++list;
         }
         for (std::size_t i = list; single && i + 1 < from; ++i) {
-            for (const std::string_view name : aggregates) single = single && !(Word(i, name) && Word(i + 1, "("));
+            for (const std::string_view name : aggregates)
+                single = single && !(Word(i, name) && Word(i + 1, "("));
         }
         const std::string columns = Piece([&] { Columns({list, from}); });
         std::string tables, condition, sorting;
@@ -176,7 +179,8 @@ private:
                 i = close;
             } else if (Word(i, "on")) {
                 std::size_t end = i + 1;
-                while (end < range.end && !IsJoinWord(end)) end = Word(end, "(") ? expressions_.Match(end) + 1 : end + 1;
+                while (end < range.end && !IsJoinWord(end))
+                    end = Word(end, "(") ? expressions_.Match(end) + 1 : end + 1;
                 Write("on");
                 expressions_.Expression({i + 1, end}, Use::Condition);
                 i = end - 1;
@@ -203,7 +207,8 @@ private:
                 expected = true;
             } else if (expected && IsName(i)) {
                 const std::size_t alias = Word(i + 1, "as") ? i + 2 : i + 1;
-                const bool named = alias < range.end && IsName(alias) && !IsJoinWord(alias) && !Word(alias, "on");
+                const bool named =
+                    alias < range.end && IsName(alias) && !IsJoinWord(alias) && !Word(alias, "on");
                 expressions_.scope.emplace_back(At(named ? alias : i).text, catalog_.FindTable(At(i).text));
                 expected = false;
             }
@@ -241,7 +246,8 @@ private:
         if (Word(i, "(") && !Word(i + 1, "select")) {
             const std::size_t close = expressions_.Match(i);
             for (const Range& name : expressions_.SplitByComma({i + 1, close})) {
-                columns.push_back(table && !name.Empty() ? FindColumn(*table, At(name.end - 1).text) : nullptr);
+                columns.push_back(table && !name.Empty() ? FindColumn(*table, At(name.end - 1).text)
+                                                         : nullptr);
             }
             Raw({i, close + 1});
             i = close + 1;
@@ -303,8 +309,8 @@ private:
             if (i > 0) Write(",");
             // The first "=" assigns; any further one compares.
             const std::size_t equals = expressions_.FindWord(assignments[i], "=");
-            if (equals >= assignments[i].end || equals == assignments[i].begin || equals + 1 == assignments[i].end ||
-                !IsName(equals - 1))
+            if (equals >= assignments[i].end || equals == assignments[i].begin ||
+                equals + 1 == assignments[i].end || !IsName(equals - 1))
                 throw SyntaxError("SET needs a column, \"=\" and a value.");
             expressions_.WriteToken(equals - 1);
             Write("=");
@@ -317,7 +323,8 @@ private:
     void Delete(Range range) {
         std::size_t i = 1;
         if (Word(i, "*")) ++i;
-        if (!Word(i, "from") || !IsName(i + 1)) throw SyntaxError("DELETE needs FROM and the name of a table.");
+        if (!Word(i, "from") || !IsName(i + 1))
+            throw SyntaxError("DELETE needs FROM and the name of a table.");
         const std::size_t where = expressions_.FindWord(range, "where");
         expressions_.scope.emplace_back(At(i + 1).text, catalog_.FindTable(At(i + 1).text));
         Write("delete");

@@ -11,7 +11,8 @@ bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 // Every byte beyond ASCII belongs to a letter of a name.
 bool StartsName(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || static_cast<unsigned char>(c) >= 128;
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' ||
+           static_cast<unsigned char>(c) >= 128;
 }
 bool IsNamePart(char c) { return StartsName(c) || IsDigit(c) || c == '$'; }
 
@@ -87,7 +88,8 @@ private:
         std::string content;
         for (std::size_t from = at_ + 1;;) {
             const std::size_t end = sql_.find(quote, from);
-            if (end == std::string_view::npos) throw SyntaxError("A text in the statement is not closed by a quote.");
+            if (end == std::string_view::npos)
+                throw SyntaxError("A text in the statement is not closed by a quote.");
             content.append(sql_, from, end - from);
             if (end + 1 < sql_.size() && sql_[end + 1] == quote) { // a doubled quote stands for one
                 content += quote;
@@ -103,7 +105,8 @@ private:
     void Bracket() {
         std::size_t start = at_ + 1;
         while (start < sql_.size() && IsBlank(sql_[start])) ++start;
-        if (SameWord(sql_.substr(start, 6), "select") && start + 6 < sql_.size() && IsBlank(sql_[start + 6])) {
+        if (SameWord(sql_.substr(start, 6), "select") && start + 6 < sql_.size() &&
+            IsBlank(sql_[start + 6])) {
             ++derived_;
             Add(TokenKind::Symbol, "(");
             ++at_;
@@ -158,7 +161,8 @@ private:
         }
         static constexpr std::string_view known = "().,=<>+-*/";
         if (known.find(sql_[at_]) == std::string_view::npos)
-            throw SyntaxError("The statement has a \"" + std::string(1, sql_[at_]) + "\" where none can stand.");
+            throw SyntaxError("The statement has a \"" + std::string(1, sql_[at_]) +
+                              "\" where none can stand.");
         Add(TokenKind::Symbol, sql_.substr(at_, 1));
         ++at_;
     }

@@ -33,10 +33,18 @@ std::vector<Value> Fill(const Form& form, const Tokens& tokens, const Regional& 
         const std::string& text = tokens.literals[static_cast<std::size_t>(slot.literal)];
         switch (slot.kind) {
         case Slot::Kind::Text:
-        case Slot::Kind::Pattern: parameters.emplace_back(text); break;
-        case Slot::Kind::Amount: parameters.push_back(ReadAmount(text)); break;
-        case Slot::Kind::Date: parameters.emplace_back(ReadDate(text, regional)); break;
-        case Slot::Kind::Day: parameters.emplace_back(DateTime{ReadDate(text, regional).day, 0}); break;
+        case Slot::Kind::Pattern:
+            parameters.emplace_back(text);
+            break;
+        case Slot::Kind::Amount:
+            parameters.push_back(ReadAmount(text));
+            break;
+        case Slot::Kind::Date:
+            parameters.emplace_back(ReadDate(text, regional));
+            break;
+        case Slot::Kind::Day:
+            parameters.emplace_back(DateTime{ReadDate(text, regional).day, 0});
+            break;
         }
     }
     return parameters;

@@ -62,7 +62,9 @@ struct Term {
 
 // The condition of a record find or filter ("KodeBrg='A1'", "UserId LIKE 'a*'", several joined by And).
 std::vector<Term> ParseCriterion(std::string_view criterion, const Regional& regional);
-// The same as an engine condition with parameters.
+// A term as an engine condition, its value as this parameter (none for a comparison with Null).
+std::string ConditionOf(const Term& term, std::size_t parameter);
+// All terms as an engine condition with parameters.
 Statement TranslateCriterion(std::string_view criterion, const Catalog& catalog, const Regional& regional);
 
 // Whether a text meets a pattern of "%" (any text) and "_" (any one character), without regard to case.
