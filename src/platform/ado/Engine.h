@@ -15,8 +15,8 @@ namespace varnik::ado {
 // Why a call of the engine failed; Errors.h makes the sentence of it.
 enum class Fault {
     Syntax,
-    UnknownTable,
-    UnknownColumn,
+    NoTable,
+    NoColumn,
     ValueCount,
     Required, // detail: "Table.Column"
     TooLong,  // detail: "Table.Column"

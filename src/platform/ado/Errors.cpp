@@ -31,9 +31,9 @@ DataError Explain(const EngineError& error, const std::filesystem::path& file, c
     case Fault::Duplicate:
         return {ConstraintFault,
                 "There is already a row with this " + FirstName(detail) + "; it must be unique."};
-    case Fault::UnknownTable:
+    case Fault::NoTable:
         return {UnknownTable, "There is no table or query named \"" + detail + "\"."};
-    case Fault::UnknownColumn: {
+    case Fault::NoColumn: {
         const std::size_t lacks = detail.find(" has no column named ");
         if (lacks != std::string::npos)
             return {UnknownColumn, "The " + detail.substr(0, lacks) + " has no column \"" +

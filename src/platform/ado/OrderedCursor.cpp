@@ -8,6 +8,7 @@
 namespace varnik::ado {
 namespace {
 
+constexpr int FirstBatch = 16;
 constexpr std::size_t Unknown = static_cast<std::size_t>(-1);
 
 class OrderedCursor final : public TableCursor {
@@ -60,9 +61,9 @@ public:
         TableCursor::Filter(std::move(terms));
         numbers_.clear();
         added_.clear();
-        complete_ = false;
-        index_ = 0;
-        removed_ = false;
+        complete_ = removed_ = false;
+        index_ = read_ = aheadFrom_ = 0;
+        batch_ = FirstBatch;
     }
 
     long Count() override {
@@ -177,7 +178,7 @@ private:
     bool complete_ = false;
     std::size_t read_ = 0;
     std::size_t aheadFrom_ = 0;
-    int batch_ = 16;
+    int batch_ = FirstBatch;
     std::int64_t changes_ = 0;
 };
 

@@ -130,7 +130,7 @@ void Recordset::Impl::Insert(const jet::Table& table) {
 void Recordset::Impl::Save(const jet::Table& table) {
     Session& session = Session_();
     const Regional& regional = *session.Surroundings().regional;
-    std::string sql = "update \"" + std::string(table.name) + "\" set ";
+    std::string text = "update \"" + std::string(table.name) + "\" set ";
     std::vector<Value> values;
     for (std::size_t i = 0; i < edits.size(); ++i) {
         if (!edits[i]) continue;
@@ -139,12 +139,12 @@ void Recordset::Impl::Save(const jet::Table& table) {
         if (column.required && edits[i]->IsNull())
             throw EngineError{Fault::Required, std::string(table.name) + "." + std::string(column.name)};
         values.push_back(*edits[i]);
-        sql.append(values.size() > 1 ? ",\"" : "\"").append(column.name).append("\"=?");
-        sql += std::to_string(values.size());
+        text.append(values.size() > 1 ? ",\"" : "\"").append(column.name).append("\"=?");
+        text += std::to_string(values.size());
     }
     if (values.empty()) return;
     values.emplace_back(cursor->Mark());
-    Running running(session.Compile(sql + " where rowid=?" + std::to_string(values.size())), values);
+    Running running(session.Compile(text + " where rowid=?" + std::to_string(values.size())), values);
     const long changes = session.Write(running);
     connection->wrote = true;
     if (changes == 0) throw DataError(RowGone, "The record was deleted by another user.");

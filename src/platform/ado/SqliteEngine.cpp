@@ -44,10 +44,10 @@ Fault FaultOf(int code, std::string& message) {
         return Fault::Input;
     case SQLITE_ERROR:
         for (const std::string_view text : {"no such table: ", "no such view: "}) {
-            if (starts(text)) return cut(text), Fault::UnknownTable;
+            if (starts(text)) return cut(text), Fault::NoTable;
         }
-        if (starts("no such column: ")) return cut("no such column: "), Fault::UnknownColumn;
-        if (message.find(" has no column named ") != std::string::npos) return Fault::UnknownColumn;
+        if (starts("no such column: ")) return cut("no such column: "), Fault::NoColumn;
+        if (message.find(" has no column named ") != std::string::npos) return Fault::NoColumn;
         if (message.find("values for") != std::string::npos ||
             message.find("values were supplied") != std::string::npos)
             return Fault::ValueCount;

@@ -7,7 +7,7 @@
 namespace varnik::jet {
 namespace {
 
-// Functions of the dialect: "$1", "$2", "$3" are the arguments, "$*" all of them.
+// Functions of the dialect: "$1", "$2", "$3" are the arguments; without a text the name stays.
 struct FunctionRule {
     std::string_view name;
     int arguments; // -1: any number
@@ -274,13 +274,12 @@ void ExpressionWriter::Function(std::size_t name, std::size_t close) {
     for (const FunctionRule& rule : functions) {
         if (rule.text.empty() || !Is(At(name), rule.name)) continue;
         if (rule.arguments >= 0 && rule.arguments != static_cast<int>(arguments.size())) continue;
-        for (std::size_t i = 0; i < rule.text.size(); ++i) {
-            if (rule.text[i] != '$') {
-                output += rule.text[i] == ' ' || i > 0 ? std::string(1, rule.text[i])
-                                                       : std::string(" ") + rule.text[i];
-                continue;
+        for (const std::string& word : Split(rule.text, ' ')) {
+            if (word[0] == '$') {
+                Expression(arguments[static_cast<std::size_t>(word[1] - '1')], Use::Value);
+            } else {
+                Write(word);
             }
-            Expression(arguments[static_cast<std::size_t>(rule.text[++i] - '1')], Use::Value);
         }
         return;
     }

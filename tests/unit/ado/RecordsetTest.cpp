@@ -1,0 +1,278 @@
+#include "tests/unit/ado/Fixture.h"
+
+namespace varnik::ado {
+namespace {
+
+class RecordsetTest : public DatabaseTest {
+protected:
+    RecordsetTest() { CreateAll(); }
+
+    void AddLots(int count, const char* code = "A") {
+        Connection connection = Open();
+        Recordset lots("SELECT * FROM FakturDetail", connection);
+        for (int i = 1; i <= count; ++i) {
+            lots.AddNew();
+            lots["NoFaktur"] = "F" + std::to_string(i);
+            lots["TglFaktur"] = *MakeDate(2026, 1, i % 28 + 1);
+            lots["KodeBrg"] = code;
+            lots["Qty"] = i;
+            lots["Qty2"] = 2;
+            lots["QtySisa"] = i * 2;
+            lots.Update();
+        }
+    }
+    static std::string Walk(Recordset& rows, const char* field) {
+        std::string seen;
+        for (; !rows.Eof(); rows.MoveNext()) seen += ShowValue(rows[field], Regional()) + " ";
+        return seen;
+    }
+};
+
+TEST_F(RecordsetTest, ReadsEveryTypeBackAsItWasWritten) {
+    Connection connection = Open();
+    Recordset rows("Select * From Widths", connection);
+    EXPECT_TRUE(rows.Empty());
+    rows.AddNew();
+    EXPECT_EQ(rows["B"].Value(), Value(false));
+    EXPECT_TRUE(rows["S"].Value().IsNull());
+    rows["S"] = 1.5;
+    rows["L"] = 7;
+    rows["b"] = true;
+    rows["T"] = *MakeDate(2026, 3, 4, 60);
+    rows["X"] = "O'Brien";
+    rows.Update();
+    EXPECT_EQ(rows["X"].Value(), Value("O'Brien"));
+    rows.Requery();
+    EXPECT_EQ(rows["S"].Value(), Value(1.5));
+    EXPECT_EQ(rows["L"].Value(), Value(7));
+    EXPECT_EQ(rows["B"].Value(), Value(true));
+    EXPECT_EQ(rows["T"].Value(), Value(*MakeDate(2026, 3, 4, 60)));
+    EXPECT_TRUE(rows["C"].Value().IsNull());
+    EXPECT_EQ(rows.FieldCount(), 8);
+    EXPECT_EQ(rows.FieldName(7), "X");
+    EXPECT_EQ(FailureOf([&] { rows["Y"].Value(); }), NoSuchField);
+    EXPECT_EQ(FailureOf([&] { Recordset("Select Y From Widths", connection); }), UnknownColumn);
+}
+
+TEST_F(RecordsetTest, StoredQueriesGiveTheTypesOfTheirColumns) {
+    AddCustomer("A", "Adi");
+    AddLots(1);
+    Connection connection = Open();
+    Recordset rows("Select Tanggal, Each, NamaCus, Aktif From QryLots Where NamaCus Like '%AD%'", connection);
+    EXPECT_EQ(rows["Tanggal"].Value(), Value(*MakeDate(2026, 1, 2)));
+    EXPECT_EQ(rows["Each"].Value(), Value(0.5));
+    EXPECT_EQ(rows["Aktif"].Value(), Value(false));
+    EXPECT_EQ(FailureOf([&] { rows["NamaCus"] = "x"; }), CannotChange);
+    Run("Update FakturDetail Set Qty2 = 0");
+    std::string text;
+    EXPECT_EQ(FailureOf([&] { rows.Requery(); }, &text), DivisionByZero);
+    EXPECT_EQ(text, "Division by zero");
+}
+
+TEST_F(RecordsetTest, WalksInEntryOrderBothWays) {
+    AddLots(40);
+    Connection connection = Open();
+    Recordset rows("Select * From FakturDetail Where KodeBrg = 'a' and QtySisa > 0", connection);
+    EXPECT_EQ(rows.RecordCount(), 40);
+    int expected = 1;
+    for (; !rows.Eof(); rows.MoveNext())
+        EXPECT_EQ(rows["Qty"].Value(), Value(static_cast<double>(expected++)));
+    EXPECT_EQ(expected, 41);
+    EXPECT_EQ(FailureOf([&] { rows.MoveNext(); }), NoCurrentRecord);
+    EXPECT_EQ(FailureOf([&] { rows["Qty"].Value(); }), NoCurrentRecord);
+    rows.MovePrevious();
+    EXPECT_EQ(rows["Qty"].Value(), Value(40.0));
+    rows.MovePrevious();
+    EXPECT_EQ(rows["Qty"].Value(), Value(39.0));
+    rows.MoveFirst();
+    rows.MovePrevious();
+    EXPECT_TRUE(rows.Bof());
+    EXPECT_FALSE(rows.Eof());
+    rows.MoveNext();
+    EXPECT_EQ(rows["NoFaktur"].Value(), Value("F1"));
+    rows.MoveLast();
+    EXPECT_EQ(rows["NoFaktur"].Value(), Value("F40"));
+}
+
+// As a sale does it: every lot falls out of the condition while the walk goes on.
+TEST_F(RecordsetTest, OwnUpdatesDoNotDisturbTheWalk) {
+    AddLots(20);
+    for (const char* sql : {"Select * From FakturDetail Where KodeBrg = 'A' and QtySisa > 0",
+                            "Select * From FakturDetail Where QtySisa > 0 Order By TglFaktur"}) {
+        Run("Update FakturDetail Set QtySisa = 1");
+        Connection connection = Open();
+        Recordset rows(sql, connection);
+        int walked = 0;
+        for (; !rows.Eof(); rows.MoveNext(), ++walked) {
+            rows["QtySisa"] = 0;
+            rows.Update();
+            EXPECT_EQ(rows["QtySisa"].Value(), Value(0.0));
+        }
+        EXPECT_EQ(walked, 20) << sql;
+        EXPECT_EQ(rows.RecordCount(), 20) << sql;
+        rows.MoveFirst();
+        EXPECT_EQ(Walk(rows, "NoFaktur").substr(0, 9), "F1 F2 F3 ") << sql;
+        EXPECT_EQ(Ask("Select Count(*) From FakturDetail Where QtySisa > 0"), Value(0));
+    }
+}
+
+TEST_F(RecordsetTest, SeesWhatOthersWriteBehindItsRow) {
+    AddLots(30);
+    Connection connection = Open(), other = Open();
+    Recordset rows("Select * From FakturDetail", connection);
+    rows.MoveNext();
+    rows.MoveNext(); // has read ahead
+    other.Execute("Update FakturDetail Set Qty = 99 Where NoFaktur = 'F4'");
+    other.Execute("Delete From FakturDetail Where NoFaktur = 'F5'");
+    rows.MoveNext();
+    EXPECT_EQ(rows["Qty"].Value(), Value(99.0));
+    rows.MoveNext();
+    EXPECT_EQ(rows["NoFaktur"].Value(), Value("F6"));
+    other.Execute("Delete From FakturDetail Where NoFaktur = 'F6'");
+    rows["Qty"] = 1;
+    EXPECT_EQ(FailureOf([&] { rows.Update(); }), RowGone);
+    rows.CancelUpdate();
+    rows.MoveNext();
+    EXPECT_EQ(rows["NoFaktur"].Value(), Value("F7"));
+}
+
+TEST_F(RecordsetTest, FindsAndFilters) {
+    for (const char* code : {"B2", "A1", "C3"}) AddCustomer(code, std::string("Toko ") + code);
+    Connection connection = Open();
+    for (const char* sql : {"SELECT * FROM customer", "SELECT * FROM customer Order By KodeCus",
+                            "Select a.KodeCus, a.NamaCus From Customer a, Customer b Where a.KodeCus = "
+                            "b.KodeCus Order By a.KodeCus"}) {
+        Recordset rows(sql, connection);
+        rows.Find("KodeCus='c3'");
+        EXPECT_EQ(rows["NamaCus"].Value(), Value("Toko C3")) << sql;
+        rows.Find("NamaCus = 'Toko C3'"); // from the current row on, itself included
+        EXPECT_FALSE(rows.Eof()) << sql;
+        rows.Find("KodeCus='A1'");
+        EXPECT_TRUE(rows.Eof()) << sql;
+        rows.Find("KodeCus='C3'");
+        EXPECT_TRUE(rows.Eof()) << sql;
+        rows.MoveFirst();
+        rows.Find("NamaCus LIKE '*oko b*'");
+        EXPECT_EQ(rows["KodeCus"].Value(), Value("B2")) << sql;
+        rows.Filter("KodeCus > 'A1' And NamaCus Like 'toko*'");
+        EXPECT_EQ(rows.RecordCount(), 2) << sql;
+        rows.MoveLast();
+        rows.MoveNext();
+        EXPECT_TRUE(rows.Eof() && !rows.Bof()) << sql;
+        rows.Filter("KodeCus='Z'");
+        EXPECT_TRUE(rows.Empty()) << sql;
+        rows.Filter("");
+        EXPECT_EQ(rows.RecordCount(), 3) << sql;
+        EXPECT_EQ(FailureOf([&] { rows.Find("Kode='1'"); }), UnknownColumn) << sql;
+        EXPECT_EQ(FailureOf([&] { rows.Find("KodeCus='O'Brien'"); }), SyntaxFault) << sql;
+    }
+}
+
+TEST_F(RecordsetTest, DeletesAndComesBackByBookmark) {
+    for (const char* code : {"A", "B", "C", "D"}) AddCustomer(code, code);
+    Connection connection = Open();
+    for (const char* sql : {"SELECT * FROM customer", "SELECT * FROM customer Order By NamaCus"}) {
+        Recordset rows(sql, connection);
+        rows.Find("KodeCus='D'");
+        const Bookmark last = rows.GetBookmark();
+        rows.MoveFirst();
+        rows.MoveNext();
+        const std::string gone = rows["KodeCus"].Value().Text();
+        rows.Delete();
+        EXPECT_FALSE(rows.Eof());
+        EXPECT_EQ(FailureOf([&] { rows["KodeCus"].Value(); }), RowGone);
+        rows.MoveNext();
+        EXPECT_EQ(rows["KodeCus"].Value(), Value(gone == "B" ? "C" : "D")) << sql;
+        rows.MovePrevious();
+        EXPECT_EQ(rows["KodeCus"].Value(), Value("A")) << sql;
+        rows.SetBookmark(last);
+        EXPECT_EQ(rows["KodeCus"].Value(), Value("D"));
+        rows.MoveNext();
+        EXPECT_TRUE(rows.Eof());
+        EXPECT_EQ(rows.RecordCount(), gone == "B" ? 3 : 2);
+    }
+    Recordset rows("SELECT * FROM customer", connection);
+    while (!rows.Eof()) {
+        rows.Delete();
+        rows.MoveNext();
+    }
+    EXPECT_TRUE(rows.Empty());
+}
+
+TEST_F(RecordsetTest, NewRowsAreSavedCancelledAndRetried) {
+    AddCustomer("A", "Adi");
+    Connection connection = Open();
+    for (const char* sql : {"SELECT * FROM customer", "SELECT * FROM customer Order By KodeCus"}) {
+        Recordset rows(sql, connection);
+        rows.AddNew();
+        rows["KodeCus"] = "a";
+        rows["nJTP"] = 1;
+        rows["SaldoAkhir"] = 2;
+        rows["SaldoAwal"] = 3;
+        std::string text;
+        EXPECT_EQ(FailureOf([&] { rows.Update(); }, &text), ConstraintFault);
+        EXPECT_EQ(text, "There is already a row with this Customer.KodeCus; it must be unique.");
+        rows["KodeCus"] = std::string(sql).ends_with("KodeCus") ? "0" : "B"; // what was typed is still there
+        rows.Update();
+        EXPECT_EQ(rows["SaldoAwal"].Value(), Value(3.0));
+        rows.MovePrevious();
+        EXPECT_EQ(rows["KodeCus"].Value(), Value(std::string(sql).ends_with("KodeCus") ? "B" : "A")) << sql;
+        rows.AddNew();
+        rows["KodeCus"] = "Z";
+        rows.CancelUpdate();
+        EXPECT_EQ(rows["KodeCus"].Value(), Value(std::string(sql).ends_with("KodeCus") ? "B" : "A"));
+        rows["NamaCus"] = "changed";
+        rows.CancelUpdate();
+        EXPECT_NE(rows["NamaCus"].Value(), Value("changed"));
+        rows["NamaCus"] = "moved";
+        rows.MoveFirst(); // a change under way is saved by the move
+    }
+    EXPECT_EQ(Ask("Select NamaCus From Customer Where KodeCus='A'"), Value("moved"));
+    EXPECT_EQ(Ask("Select Count(*) From Customer"), Value(3));
+
+    Recordset ledger("SELECT * FROM Persediaan", connection);
+    for (int i = 1; i <= 2; ++i) {
+        ledger.AddNew();
+        ledger["Qty1"] = i;
+        ledger["QtySisa"] = 0;
+        ledger.Update();
+        EXPECT_EQ(ledger["ID"].Value(), Value(i));
+    }
+    EXPECT_EQ(FailureOf([&] { ledger["ID"] = 9; }), CannotChange);
+}
+
+TEST_F(RecordsetTest, ClosesWithItsConnection) {
+    AddCustomer("A", "Adi");
+    Connection connection = Open();
+    Recordset rows("SELECT * FROM customer", connection);
+    connection.Close();
+    EXPECT_FALSE(rows.IsOpen());
+    EXPECT_EQ(FailureOf([&] { rows["KodeCus"].Value(); }), ObjectClosed);
+    EXPECT_EQ(FailureOf([&] { rows.MoveNext(); }), ObjectClosed);
+    EXPECT_EQ(FailureOf([&] { connection.Execute("Delete From Customer"); }), ObjectClosed);
+    EXPECT_EQ(FailureOf([&] { rows.Open("SELECT * FROM customer", connection); }), ObjectClosed);
+}
+
+// A look-up list longer than what is read at once, with an order of its own.
+TEST_F(RecordsetTest, WalksALongListInItsOrder) {
+    Connection connection = Open();
+    ExecuteNative(connection,
+                  "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i < 3000) INSERT INTO "
+                  "Customer SELECT printf('%06d', 3001 - i), 'n', 0, 0, 0, 0 FROM n");
+    Recordset rows("Select KodeCus, NamaCus From Customer Order By KodeCus", connection);
+    int seen = 0;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        char code[16];
+        std::snprintf(code, sizeof code, "%06d", ++seen);
+        ASSERT_EQ(rows[0].Value(), Value(code));
+        if (seen == 500) connection.Execute("Update Customer Set NamaCus = 'x' Where KodeCus = '000001'");
+    }
+    EXPECT_EQ(seen, 3000);
+    rows.MoveFirst();
+    rows.Find("KodeCus='002000'");
+    rows.MoveNext();
+    EXPECT_EQ(rows[0].Value(), Value("002001"));
+}
+
+} // namespace
+} // namespace varnik::ado
