@@ -46,7 +46,11 @@ struct Console::Impl {
     Impl(const Impl&) = delete;
     Impl& operator=(const Impl&) = delete;
 
+    // Pushes a word as a function of Lua; `standard` is what it means with one argument, or nil.
+    void PushWord(const Word& word, bool standard);
     void Register(std::span<const Word> words);
+    void RegisterPreviews();
+    void OpenPreview(const ReportRequest& request);
     // Runs the word; on failure its message stands on Lua's stack, and every object of ours is gone.
     bool RunWord(const Word& word, int& results);
     static int Trampoline(lua_State* lua);
@@ -61,20 +65,50 @@ struct Console::Impl {
 Console::Console(Host host, ConsoleDesktop& desktop, std::ostream& out)
     : impl_(std::make_unique<Impl>(std::move(host), desktop, out)) {
     luaL_openlibs(impl_->lua);
-    for (const auto& words : {ProgramWords(), ControlWords(), ReadingWords(), ExpectWords()})
+    for (const auto& words : {ProgramWords(), ControlWords(), ReadingWords(), ReportWords(), ExpectWords()})
         impl_->Register(words);
+    impl_->RegisterPreviews();
+    desktop.launch = [this](const ReportRequest& request) { impl_->OpenPreview(request); };
 }
 
-Console::~Console() = default;
+// The screens go before the services that they work with.
+Console::~Console() {
+    impl_->stage.desktop.launch = {};
+    impl_->stage.desktop.Quit();
+    impl_->stage.desktop.Settle();
+}
+
+void Console::Impl::PushWord(const Word& word, bool standard) {
+    lua_pushlightuserdata(lua, this);
+    lua_pushlightuserdata(lua, const_cast<Word*>(&word));
+    if (standard)
+        lua_getglobal(lua, word.name); // "type" keeps its standard meaning for one argument
+    else
+        lua_pushnil(lua);
+    lua_pushcclosure(lua, Trampoline, 3);
+}
 
 void Console::Impl::Register(std::span<const Word> words) {
     for (const Word& word : words) {
-        lua_pushlightuserdata(lua, this);
-        lua_pushlightuserdata(lua, const_cast<Word*>(&word));
-        lua_getglobal(lua, word.name); // "type" keeps its standard meaning for one argument
-        lua_pushcclosure(lua, Trampoline, 3);
+        PushWord(word, true);
         lua_setglobal(lua, word.name);
     }
+}
+
+void Console::Impl::RegisterPreviews() {
+    luaL_newmetatable(lua, previewMetatable);
+    lua_newtable(lua);
+    for (const Word& method : PreviewMethods()) {
+        PushWord(method, false);
+        lua_setfield(lua, -2, method.name);
+    }
+    lua_setfield(lua, -2, "__index");
+    lua_pop(lua, 1);
+}
+
+void Console::Impl::OpenPreview(const ReportRequest& request) {
+    auto report = reports::OpenReport(request, stage.host.services);
+    stage.previews.push_back({++stage.previewCount, std::move(report)});
 }
 
 int Console::Impl::Trampoline(lua_State* lua) {

@@ -5,6 +5,7 @@
 
 #include "console/ConsoleDesktop.h"
 #include "platform/desktop/Services.h"
+#include "reports/engine/Report.h"
 
 #include <filesystem>
 #include <functional>
@@ -20,6 +21,8 @@ struct Host {
     Services& services;
     Regional& regional;          // the settings that the services refer to; a script may set them
     std::function<void()> start; // start-up, until a screen waits for the user
+    // Writes all pages of a report; a program without the desktop has none.
+    std::function<void(const reports::Report&, const std::filesystem::path&)> writePdf{};
 };
 
 class Console {

@@ -40,15 +40,23 @@ void PickDate(Stage& stage, const std::string& name, const std::string& text) {
     picker.Pick(*date);
 }
 
+void Mouse(forms::Control& control, const std::function<void()>& handler) {
+    if (handler && !control.Owner().Closed()) control.Owner().Act(handler);
+}
+
 void Click(Stage& stage, Call& call) {
     forms::Control& control = stage.Use(call.Text(1));
     switch (control.GetKind()) {
     case Kind::Button:
     case Kind::CheckBox:
     case Kind::OptionButton:
+        control.Owner().Click(control);
+        break;
     case Kind::Label:
     case Kind::Image:
+        Mouse(control, control.onMouseDown);
         control.Owner().Click(control);
+        Mouse(control, control.onMouseUp);
         break;
     default:
         throw ScriptError{control.Name() + " is nothing to click: see focus, row, choose"};

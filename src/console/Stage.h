@@ -11,11 +11,20 @@
 
 namespace varnik::console {
 
+// An open preview. Its number tells it from others of the same report.
+struct Preview {
+    int number;
+    std::unique_ptr<reports::Report> report;
+};
+inline constexpr const char* previewMetatable = "varnik.preview";
+
 struct Stage {
     Host host;
     ConsoleDesktop& desktop;
     std::ostream& out;
-    std::filesystem::path folder; // where the script was started: its relative paths count from here
+    std::filesystem::path folder;    // where the script was started: its relative paths count from here
+    std::vector<Preview> previews{}; // the newest last
+    int previewCount = 0;
     int passed = 0, failed = 0;
 
     void Pass() { ++passed; }
@@ -40,6 +49,8 @@ struct Word {
 std::span<const Word> ProgramWords(); // clock, start-up, screens, boxes, data
 std::span<const Word> ControlWords(); // hands on controls
 std::span<const Word> ReadingWords(); // what controls show
-std::span<const Word> ExpectWords();  // expectations
+std::span<const Word> ReportWords();  // open previews
+std::span<const Word> PreviewMethods();
+std::span<const Word> ExpectWords(); // expectations
 
 } // namespace varnik::console
