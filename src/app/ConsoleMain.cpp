@@ -1,5 +1,6 @@
 // varnik-console [--folder DIR] script.lua [argument ...]
 
+#include "app/PdfWriter.h"
 #include "app/Program.h"
 #include "app/ProgramFolder.h"
 #include "console/Console.h"
@@ -44,7 +45,7 @@ int RunConsole(const Order& order) {
     using namespace varnik;
     console::ConsoleDesktop desktop(order.folder ? PrepareProgramFolder(*order.folder) : FindProgramFolder());
     Program program(desktop, regional::ReadMachine());
-    console::Host host{program.Access(), program.Settings(), [&] { program.Start(); }};
+    console::Host host{program.Access(), program.Settings(), [&] { program.Start(); }, PdfWriter()};
     return console::Console(std::move(host), desktop, std::cout).Run(order.script, order.arguments);
 }
 
