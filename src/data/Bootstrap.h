@@ -1,16 +1,25 @@
 #pragma once
-// First run: makes sure, at every start and before anything else touches the data, that the database file
-// exists and that the data source points at it.
+// The first thing at every start: there is a database, and the data source points at it. A missing one is
+// made with all tables, stored queries and the rows that a new shop begins with; an existing one is not
+// touched.
 
-namespace varnik {
+#include "platform/desktop/Services.h"
 
-struct Services;
+#include <filesystem>
+#include <string>
 
-namespace data {
+namespace varnik::data {
 
-// Creates Data/Varnik.mdb below the program's folder when it is missing, with its tables, keys, stored
-// queries and first rows; in any case writes the data source.
+// Makes the database when there is none: true when it made one, false when the file was there. It is built
+// under another name and gets its own when it is whole, so a start that was cut off leaves nothing half
+// built. DataError, and nothing left behind, when it cannot be made.
+bool CreateDatabaseCatalog(const Services& services);
+
+// Makes sure of database and data source. DataError when there is no database of this program and none can
+// be made; the message says why.
 void BootstrapDatabase(Services& services);
 
-} // namespace data
-} // namespace varnik
+// Nothing when the file is a database of this program, else what is wrong with it in plain English.
+std::string CheckShopDatabase(const ado::Environment& environment, const std::filesystem::path& file);
+
+} // namespace varnik::data

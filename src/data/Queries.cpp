@@ -1,5 +1,5 @@
 // Joined texts are null when a side is null, so a voucher without a way of paying has no NoBukti. Quantities
-// and amounts divide with divide(), which fails on a zero as the screens' statements do.
+// and amounts are divided by Divisor(), which fails on a zero as the screens' statements do.
 
 #include "data/Queries.h"
 
@@ -124,7 +124,7 @@ FROM Supplier INNER JOIN Faktur ON Supplier.KodeSup = Faktur.KodeSup)"},
         {"QryPembelianDetail", R"(
 SELECT Supplier.KodeSup, Faktur.NoFaktur, Faktur.TglFaktur, FakturDetail.KodeBrg, Produk.NamaBrg,
        FakturDetail.Qty * FakturDetail.Qty2 AS Qty, FakturDetail.Qty AS QtySatuan,
-       divide(FakturDetail.Harga, FakturDetail.Qty * FakturDetail.Qty2) AS Harga,
+       FakturDetail.Harga / Divisor(FakturDetail.Qty * FakturDetail.Qty2) AS Harga,
        FakturDetail.Harga AS HargaSatuan, FakturDetail.Satuan AS SatuanSatuan, Produk.Satuan,
        FakturDetail.Harga * FakturDetail.Qty AS Bruto, FakturDetail.Disc,
        FakturDetail.Harga * FakturDetail.Qty - FakturDetail.Disc AS Netto, FakturDetail.Total, Produk.Jasa,
@@ -137,13 +137,13 @@ FROM Supplier INNER JOIN Faktur ON Supplier.KodeSup = Faktur.KodeSup
         {"QryPenjualanDetail", R"(
 SELECT Customer.KodeCus, Customer.NamaCus, Invoice.NoInvoice, Invoice.TglInvoice, InvoiceDetail.KodeBrg,
        Produk.NamaBrg, InvoiceDetail.Qty * InvoiceDetail.Qty2 AS Qty, InvoiceDetail.Qty AS QtySatuan,
-       divide(InvoiceDetail.Harga, InvoiceDetail.Qty * InvoiceDetail.Qty2) AS Harga,
+       InvoiceDetail.Harga / Divisor(InvoiceDetail.Qty * InvoiceDetail.Qty2) AS Harga,
        InvoiceDetail.Harga AS HargaSatuan, InvoiceDetail.Satuan AS SatuanSatuan, Produk.Satuan,
        InvoiceDetail.Harga * InvoiceDetail.Qty AS Bruto, InvoiceDetail.Disc, InvoiceDetail.Netto,
        InvoiceDetail.PPN, InvoiceDetail.Total, InvoiceDetail.HPPRATA AS THPPRATA, InvoiceDetail.HPP AS THPP,
-       divide(InvoiceDetail.HPPRATA, InvoiceDetail.Qty * InvoiceDetail.Qty2) AS HPPRATA,
+       InvoiceDetail.HPPRATA / Divisor(InvoiceDetail.Qty * InvoiceDetail.Qty2) AS HPPRATA,
        InvoiceDetail.Netto - InvoiceDetail.HPP AS MARGIN,
-       divide(InvoiceDetail.HPP, InvoiceDetail.Qty * InvoiceDetail.Qty2) AS HPP, Produk.Jasa,
+       InvoiceDetail.HPP / Divisor(InvoiceDetail.Qty * InvoiceDetail.Qty2) AS HPP, Produk.Jasa,
        JenisProduk.JenisProduk, Produk.JenisBrg, Produk.KodeSup, Supplier.NamaSup
 FROM Customer INNER JOIN Invoice ON Customer.KodeCus = Invoice.KodeCus
     INNER JOIN InvoiceDetail ON Invoice.NoInvoice = InvoiceDetail.NoInvoice

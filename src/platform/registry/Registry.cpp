@@ -115,6 +115,15 @@ bool Registry::DeleteKey(std::string_view key) {
            Write();
 }
 
+bool Registry::DeleteValue(std::string_view key, std::string_view value) {
+    const auto values = keys_.find(key);
+    if (values == keys_.end()) return false;
+    const auto data = values->second.find(value);
+    if (data == values->second.end()) return false;
+    values->second.erase(data);
+    return Write();
+}
+
 bool Registry::Write() const {
     // A name of its own, so that two stations that start together on one folder do not mix their files.
     std::filesystem::path fresh = file_;

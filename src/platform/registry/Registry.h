@@ -37,6 +37,7 @@ public:
     bool Set(std::string_view key, std::string_view value, Data data);
     // With all keys below it; false when there is none or the file cannot be written.
     bool DeleteKey(std::string_view key);
+    bool DeleteValue(std::string_view key, std::string_view value);
 
 private:
     using Values = std::map<std::string, Data, NoCaseLess>;

@@ -1,0 +1,121 @@
+#include "data/Bootstrap.h"
+
+#include "common/Files.h"
+#include "common/Text.h"
+#include "data/DataSource.h"
+#include "data/Queries.h"
+#include "data/Schema.h"
+
+namespace varnik::data {
+namespace {
+
+constexpr std::pair<const char*, const char*> Menus[] = {
+    {"F01", "Products"},
+    {"F02", "Customer"},
+    {"F03", "Suppliers"},
+    {"F04", "Cash And Bank"},
+    {"F06", "Cost Types"},
+    {"T01", "Sales"},
+    {"T02", "Customer Receipts"},
+    {"T03", "Sales Returns"},
+    {"T04", "Purchases"},
+    {"T05", "Supplier Payments"},
+    {"T06", "Purchases Returns"},
+    {"T08", "Other Receipts"},
+    {"T09", "Other Payments"},
+    {"L01", "Sales Reports"},
+    {"L04", "Purchases Reports"},
+    {"L13", "Inventory"},
+    {"L16", "Cash and Banks Book"},
+    {"L17", "Account Payables"},
+    {"L18", "Account Receivables"},
+    {"F08", "Products Type"},
+    {"F07", "Cost Details"},
+    {"F09", "Customers Type"},
+};
+
+// The rights of the first user, with their repeats and two that no menu entry has: wanted, so that a new
+// database equals those in use.
+constexpr const char* Rights[] = {"F01", "F02", "F03", "F04", "F06", "F07", "F08", "F09", "L01", "L04", "L13",
+                                  "L14", "L15", "L16", "L17", "L18", "T01", "T02", "T03", "T04", "T05", "T06",
+                                  "T08", "T09", "T09", "F01", "F02", "F03", "F04", "F06", "F01", "F02", "F03",
+                                  "F01", "F02", "F03", "F04", "F01", "F02", "F03", "F04", "F06", "F07"};
+
+std::string FileConnection(const std::filesystem::path& file) {
+    return "Provider=Microsoft.jet.oledb.4.0; Data Source = " + PathText(file);
+}
+
+void CreateSchema(ado::Connection& connection) {
+    for (const jet::Table& table : Tables()) ado::CreateTable(connection, table);
+    for (const ado::Index& index : PrimaryIndexes()) ado::CreateIndex(connection, index);
+    for (const ado::Index& key : UniqueKeys()) ado::CreateIndex(connection, key);
+    for (const StoredQuery& query : StoredQueries())
+        ado::ExecuteNative(connection, "CREATE VIEW " + query.name + " AS " + query.select);
+    for (const std::string_view index : LookUpIndexes()) ado::ExecuteNative(connection, index);
+}
+
+void WriteSeedRows(ado::Connection& connection) {
+    connection.Execute("INSERT INTO T_USER (USERID,NOUSER,PASSWORD,TAMBAH,LIHAT,GANTI, HAPUS) VALUES "
+                       "('varnik','00','" +
+                       TransformPassword("kemiri") + "',true,true,true,true)");
+    connection.Execute("INSERT INTO COMPANY (NamaPerusahaan,Ket1,Ket2,Ket3) VALUES ('Varnik Small Business',"
+                       "'True Varnik Ledger Suite','Sendara-Indonesia', "
+                       "'=========================================')");
+    for (const auto& [menu, name] : Menus)
+        connection.Execute(std::string("INSERT INTO MenuList (MenuID, NamaMenu, Ket) VALUES ('") + menu +
+                           "', '" + name + "', '')");
+    for (const char* menu : Rights)
+        connection.Execute(std::string("INSERT INTO SecurityUser (UserID,MenuID) VALUES ('00', '") + menu +
+                           "')");
+}
+
+} // namespace
+
+bool CreateDatabaseCatalog(const Services& services) {
+    const std::filesystem::path file = DatabaseFile(services.desktop.ProgramFolder());
+    std::error_code error;
+    std::filesystem::create_directories(file.parent_path(), error);
+    if (std::filesystem::exists(file, error)) return false;
+
+    std::filesystem::path fresh = file;
+    fresh += ".new";
+    std::filesystem::remove(fresh, error); // of a start that was cut off
+    try {
+        ado::CreateDatabase(fresh);
+        ado::Connection connection(services.data, FileConnection(fresh));
+        CreateSchema(connection);
+        WriteSeedRows(connection);
+        connection.Close();
+        ado::ReleaseDatabase(fresh);
+        std::filesystem::rename(fresh, file);
+    } catch (const std::exception& failure) {
+        std::filesystem::remove(fresh, error);
+        throw ado::DataError(ado::EngineFault,
+                             "The database \"" + PathText(file) + "\" cannot be created: " + failure.what());
+    }
+    return true;
+}
+
+std::string CheckShopDatabase(const ado::Environment& environment, const std::filesystem::path& file) {
+    try {
+        ado::Connection connection(environment, FileConnection(file));
+        for (const jet::Table& table : Tables())
+            ado::Recordset("SELECT * FROM " + std::string(table.name) + " Where 1 = 0", connection,
+                           ado::CursorType::Static);
+        return "";
+    } catch (const ado::DataError& failure) {
+        return "\"" + PathText(file) + "\" is not a database of this program: " + failure.Description();
+    }
+}
+
+void BootstrapDatabase(Services& services) {
+    if (!services.registry.KeyExists("SOFTWARE\\ODBC")) RegisterBuiltInDriver(services.registry);
+    if (!CreateDatabaseCatalog(services)) {
+        const std::string fault =
+            CheckShopDatabase(services.data, DatabaseFile(services.desktop.ProgramFolder()));
+        if (!fault.empty()) throw ado::DataError(ado::EngineFault, fault);
+    }
+    CreateDataSource(services);
+}
+
+} // namespace varnik::data
