@@ -1,0 +1,159 @@
+#include "common/Files.h"
+#include "common/Text.h"
+#include "data/Queries.h"
+#include "data/Schema.h"
+#include "tests/support/TemporaryShop.h"
+
+#include <fstream>
+
+namespace varnik {
+namespace {
+
+std::string ReadFile(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+TEST(Bootstrap, AFirstStartMakesTheWholeDatabase) {
+    TemporaryShop shop;
+    EXPECT_TRUE(shop.desktop.boxes.empty());
+    EXPECT_EQ(data::Tables().size(), 32u);
+    EXPECT_EQ(data::StoredQueries().size(), 29u);
+    EXPECT_EQ(data::CheckShopDatabase(shop.environment, data::DatabaseFile(shop.folder.Path())), "");
+    // Nothing but the database and what the engine keeps beside an open one.
+    for (const auto& entry : std::filesystem::directory_iterator(shop.folder.Path() / "Data"))
+        EXPECT_EQ(PathText(entry.path().filename()).find("Varnik.mdb.new"), std::string::npos)
+            << entry.path();
+
+    EXPECT_EQ(shop.Table("Select UserID,NoUser,Tambah,Ganti,Hapus,Lihat From T_User"),
+              "varnik|00|True|True|True|True");
+    EXPECT_EQ(TransformPassword(shop.Rows("Select Password From T_User")[0][0].Text()), "kemiri");
+    EXPECT_EQ(shop.Table("Select * From Company"),
+              "Varnik Small Business|True Varnik Ledger Suite|Sendara-Indonesia|" + Repeat(41, '='));
+    const auto menus = shop.Rows("Select * From MenuList");
+    ASSERT_EQ(menus.size(), 22u);
+    EXPECT_EQ(menus[19], (std::vector<Value>{"F08", "Products Type", ""}));
+    const auto rights = shop.Rows("Select UserID,MenuID From SecurityUser");
+    ASSERT_EQ(rights.size(), 43u);
+    EXPECT_EQ(rights[24], (std::vector<Value>{"00", "T09"}));
+    EXPECT_EQ(rights[42], (std::vector<Value>{"00", "F07"}));
+    for (const jet::Table& table : data::Tables())
+        shop.Rows("Select * From [" + std::string(table.name) + "]");
+}
+
+TEST(Bootstrap, ALaterStartChangesNothingAndPointsTheDataSourceBack) {
+    TemporaryShop shop;
+    shop.Execute("Update Company Set Ket1='Ours'");
+    shop.Execute("Delete From MenuList");
+    shop.registry.Set("SOFTWARE\\ODBC\\ODBC.INI\\Varnik", "DBQ", "elsewhere.mdb");
+    data::BootstrapDatabase(shop.services);
+    EXPECT_EQ(shop.Table("Select Ket1 From Company"), "Ours");
+    EXPECT_TRUE(shop.Rows("Select * From MenuList").empty());
+
+    // A deleted database comes back fresh.
+    ado::ReleaseDatabase(data::DatabaseFile(shop.folder.Path()));
+    std::filesystem::remove_all(shop.folder.Path() / "Data");
+    data::BootstrapDatabase(shop.services);
+    EXPECT_EQ(shop.Rows("Select * From MenuList").size(), 22u);
+    EXPECT_TRUE(shop.desktop.boxes.empty());
+}
+
+TEST(Bootstrap, ADatabaseFromAnotherMachineIsFoundInAnyCase) {
+    EmptyShop shop;
+    {
+        TemporaryShop other;
+        ado::CopyDatabase(data::DatabaseFile(other.folder.Path()), shop.folder.Path() / "copy");
+        std::filesystem::create_directories(shop.folder.Path() / "DATA");
+        std::filesystem::rename(shop.folder.Path() / "copy", shop.folder.Path() / "DATA" / "VARNIK.MDB");
+    }
+    data::BootstrapDatabase(shop.services);
+    EXPECT_FALSE(std::filesystem::exists(shop.folder.Path() / "Data"));
+    EXPECT_EQ(shop.Rows("Select * From SecurityUser").size(), 43u);
+}
+
+TEST(Bootstrap, WhatIsNoDatabaseOfThisProgramIsNamedAndLeftAlone) {
+    const auto foreign = [](const std::filesystem::path& file) { // sound, with other tables
+        ado::CreateDatabase(file);
+        ado::ReleaseDatabase(file);
+    };
+    const auto text = [](std::string content) {
+        return [content](const std::filesystem::path& file) { std::ofstream(file) << content; };
+    };
+    const std::pair<const char*, std::function<void(const std::filesystem::path&)>> cases[] = {
+        {"foreign", foreign},
+        {"text", text("a shopping list of some length, no database")},
+        {"empty", text("")}};
+    for (const auto& [name, make] : cases) {
+        EmptyShop shop;
+        const auto file = shop.folder.Path() / "Data" / "Varnik.mdb";
+        std::filesystem::create_directories(file.parent_path());
+        make(file);
+        const std::string before = ReadFile(file);
+        try {
+            data::BootstrapDatabase(shop.services);
+            ADD_FAILURE() << name;
+        } catch (const ado::DataError& error) {
+            EXPECT_NE(error.Description().find("Varnik.mdb\" is not a database of this program"),
+                      std::string::npos)
+                << error.Description();
+        }
+        EXPECT_EQ(ReadFile(file), before) << name;
+        EXPECT_FALSE(shop.registry.KeyExists("SOFTWARE\\ODBC\\ODBC.INI")) << name;
+    }
+}
+
+TEST(Bootstrap, AFolderThatTakesNoFileLeavesNothingBehind) {
+    EmptyShop shop;
+    std::ofstream(shop.folder.Path() / "Data") << "a file where the folder should be";
+    try {
+        data::BootstrapDatabase(shop.services);
+        ADD_FAILURE();
+    } catch (const ado::DataError& error) {
+        EXPECT_NE(error.Description().find("cannot be created"), std::string::npos) << error.Description();
+    }
+    EXPECT_TRUE(shop.desktop.boxes.empty());
+
+    // A start that was cut off leaves a file that the next one replaces.
+    EmptyShop cut;
+    std::filesystem::create_directories(cut.folder.Path() / "Data");
+    std::ofstream(cut.folder.Path() / "Data" / "Varnik.mdb.new") << "half";
+    data::BootstrapDatabase(cut.services);
+    EXPECT_EQ(cut.Rows("Select * From SecurityUser").size(), 43u);
+}
+
+TEST(Schema, TheFileRefusesWhatItsColumnsAndKeysForbid) {
+    TemporaryShop shop;
+    const std::string bkm =
+        "INSERT INTO BKM (NoBKM,TglBKM,Jumlah,Setor,Clear,TglJTP,TglSetor,TglClear) VALUES "
+        "('000000000100','2026-01-01',1,false,false,'2026-01-01','2026-01-01','2026-01-01')";
+    const std::string bkk = "INSERT INTO BKK (NoBKK,TglBKK,Jumlah,TglJTP,JumlahBiaya) VALUES "
+                            "('000000000100','2026-01-01',1,'2026-01-01',0)";
+    shop.Execute(bkm);
+    shop.Execute(bkk);
+    shop.Execute(bkk); // payments have no key
+    const std::string line =
+        "TglInvoice,Qty,Qty2,Harga,Bruto,Disc,Netto,nDIS,nPPN,PPN,Total,Jasa,QtyOrder,QtyRetur,"
+        "HPP,HPPRATA) VALUES ('2026-01-01',1,1,1,1,0,1,0,0,0,1,false,0,0,0,0)";
+    shop.Execute("INSERT INTO InvoiceDetail (" + line); // its number may be missing
+    const std::string refused[] = {
+        bkm,
+        "INSERT INTO Company (NamaPerusahaan,Ket1,Ket2) VALUES ('a','b','c')",
+        "INSERT INTO JenisCustomer (KodeJenisCus) VALUES ('1234')",
+        "INSERT INTO Biaya (Diskripsi) VALUES ('no code for a primary key')",
+        "INSERT INTO T_User (UserID,NoUser,[Password],Tambah,Ganti,Hapus,Lihat) VALUES "
+        "('VARNIK','01','',true,true,true,true)", // compared without case
+    };
+    for (const std::string& sql : refused) {
+        try {
+            shop.Execute(sql);
+            ADD_FAILURE() << sql;
+        } catch (const ado::DataError& error) {
+            EXPECT_EQ(error.Number(), ado::ConstraintFault) << sql << ": " << error.Description();
+        }
+    }
+    shop.Execute("INSERT INTO JenisBiaya (JenisBiaya) VALUES ('a unique key takes empty codes')");
+    shop.Execute("INSERT INTO JenisBiaya (JenisBiaya,KodeAcc) VALUES ('more than one','1101')");
+}
+
+} // namespace
+} // namespace varnik
