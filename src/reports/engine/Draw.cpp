@@ -27,7 +27,7 @@ void HorizontalRule(Page& page, double x, double y, double width, Ink ink, doubl
 
 void Append(Page& page, const Page& from, double lower) {
     for (Shade shade : from.shades) {
-        shade.box.y += lower;
+        shade.area.y += lower;
         page.shades.push_back(shade);
     }
     for (Rule rule : from.rules) {
@@ -35,8 +35,8 @@ void Append(Page& page, const Page& from, double lower) {
         rule.y2 += lower;
         page.rules.push_back(rule);
     }
-    for (Run run : from.runs) {
-        run.box.y += lower;
+    for (TextRun run : from.runs) {
+        run.area.y += lower;
         page.runs.push_back(std::move(run));
     }
 }
@@ -144,7 +144,7 @@ double DocumentFoot(const Table& table, double width, Page& page) {
              {large ? 11.0 : 9.5, large, large ? Accent : Muted});
         Line(line, totalsX + totalsWidth * 0.4, padding, totalsWidth * 0.6 - CellPadding, text,
              {size, large, large ? Accent : Black, Align::Right});
-        if (large && line.runs.size() == 2) line.runs[0].box.height = line.runs[1].box.height;
+        if (large && line.runs.size() == 2) line.runs[0].area.height = line.runs[1].area.height;
         Append(page, line, right);
         right += height;
     }

@@ -13,14 +13,14 @@ enum class Align { Left, Right, Center };
 using Ink = std::uint32_t; // 0xRRGGBB
 
 // mm
-struct Box {
+struct Area {
     double x = 0, y = 0, width = 0, height = 0;
 };
 
-// One line of text in its box, centred in the box's height. The engine has chosen a size at which the text
+// One line of text in its area, centred in the area's height. The engine has chosen a size at which the text
 // fits; a painter whose font runs wider narrows it, it never cuts.
-struct Run {
-    Box box;
+struct TextRun {
+    Area area;
     std::string text; // UTF-8, no line breaks
     Align align = Align::Left;
     double size = 9; // points
@@ -35,7 +35,7 @@ struct Rule {
 };
 
 struct Shade {
-    Box box;
+    Area area;
     Ink ink = 0xFFFFFF;
 };
 
@@ -44,7 +44,7 @@ struct Page {
     double width = 210, height = 297; // mm
     std::vector<Shade> shades;        // painted first
     std::vector<Rule> rules;
-    std::vector<Run> runs; // in reading order
+    std::vector<TextRun> runs; // in reading order
 };
 
 } // namespace varnik::reports

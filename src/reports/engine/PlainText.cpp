@@ -16,11 +16,11 @@ constexpr double ColumnWidth = 1.5; // mm of a character
 constexpr double SameLine = 1.5;    // mm between the middles of texts that still share a line
 constexpr double EmptyLine = 9;     // mm between two lines that leave one free
 
-double Middle(const Run& run) { return run.box.y + run.box.height / 2; }
+double Middle(const TextRun& run) { return run.area.y + run.area.height / 2; }
 
 // Where the text begins, in characters from the left edge.
-int Place(const Run& run) {
-    const double start = run.box.x / ColumnWidth, end = (run.box.x + run.box.width) / ColumnWidth;
+int Place(const TextRun& run) {
+    const double start = run.area.x / ColumnWidth, end = (run.area.x + run.area.width) / ColumnWidth;
     const int length = Len(run.text);
     switch (run.align) {
     case Align::Right:
@@ -34,10 +34,10 @@ int Place(const Run& run) {
 }
 
 std::string PageText(const Page& page) {
-    std::vector<const Run*> runs;
-    for (const Run& run : page.runs) runs.push_back(&run);
+    std::vector<const TextRun*> runs;
+    for (const TextRun& run : page.runs) runs.push_back(&run);
     std::stable_sort(runs.begin(), runs.end(),
-                     [](const Run* a, const Run* b) { return Middle(*a) < Middle(*b); });
+                     [](const TextRun* a, const TextRun* b) { return Middle(*a) < Middle(*b); });
     std::string text;
     for (std::size_t at = 0; at < runs.size();) {
         std::size_t end = at + 1;
@@ -45,7 +45,7 @@ std::string PageText(const Page& page) {
         if (at > 0 && Middle(*runs[at]) - Middle(*runs[at - 1]) > EmptyLine) text += '\n';
         std::stable_sort(runs.begin() + static_cast<std::ptrdiff_t>(at),
                          runs.begin() + static_cast<std::ptrdiff_t>(end),
-                         [](const Run* a, const Run* b) { return a->box.x < b->box.x; });
+                         [](const TextRun* a, const TextRun* b) { return a->area.x < b->area.x; });
         std::string line;
         int used = 0;
         for (; at < end; ++at) {

@@ -5,6 +5,9 @@
 #include "reports/engine/Report.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
 #include <xlsxwriter.h>
 
 namespace varnik::reports {
@@ -70,6 +73,9 @@ bool Report::WriteXlsx(const std::filesystem::path& file, const Progress& progre
     if (lines > MostRows)
         output.Fail("a sheet takes " + std::to_string(MostRows) + " rows, the report has " +
                     std::to_string(lines) + "; save it as CSV");
+
+    // The library tells a missing folder on the error stream alone.
+    if (!std::ofstream(output.Path())) output.Fail(std::strerror(errno));
 
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE; // row by row, whatever their number

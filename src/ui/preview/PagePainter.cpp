@@ -37,18 +37,18 @@ const Face& FaceOf(double points, bool bold) {
 
 QColor Colour(reports::Ink ink) { return QColor(static_cast<QRgb>(ink)); }
 
-void PaintRun(QPainter& painter, const reports::Run& run) {
+void PaintRun(QPainter& painter, const reports::TextRun& run) {
     const Face& face = FaceOf(run.size, run.bold);
     const QString text = QString::fromStdString(run.text);
-    const double width = run.box.width * UnitsPerMm, height = run.box.height * UnitsPerMm;
+    const double width = run.area.width * UnitsPerMm, height = run.area.height * UnitsPerMm;
     const double advance = face.metrics.horizontalAdvance(text);
     const double narrow = advance > width && advance > 0 ? width / advance : 1;
     const double room = width - advance * narrow;
-    double x = run.box.x * UnitsPerMm;
+    double x = run.area.x * UnitsPerMm;
     if (run.align == reports::Align::Right) x += room;
     if (run.align == reports::Align::Center) x += room / 2;
     const double ascent = face.metrics.ascent(), descent = face.metrics.descent();
-    const double baseline = run.box.y * UnitsPerMm + (height - ascent - descent) / 2 + ascent;
+    const double baseline = run.area.y * UnitsPerMm + (height - ascent - descent) / 2 + ascent;
     painter.setFont(face.font);
     painter.setPen(Colour(run.ink));
     if (narrow == 1) {
@@ -67,7 +67,7 @@ void PaintRun(QPainter& painter, const reports::Run& run) {
 void PaintPage(QPainter& painter, const reports::Page& page) {
     painter.save();
     for (const reports::Shade& shade : page.shades)
-        painter.fillRect(QRectF(shade.box.x, shade.box.y, shade.box.width, shade.box.height),
+        painter.fillRect(QRectF(shade.area.x, shade.area.y, shade.area.width, shade.area.height),
                          Colour(shade.ink));
     for (const reports::Rule& rule : page.rules) {
         QPen pen(Colour(rule.ink), rule.weight);
@@ -76,7 +76,7 @@ void PaintPage(QPainter& painter, const reports::Page& page) {
         painter.drawLine(QPointF(rule.x1, rule.y1), QPointF(rule.x2, rule.y2));
     }
     painter.scale(1 / UnitsPerMm, 1 / UnitsPerMm);
-    for (const reports::Run& run : page.runs) PaintRun(painter, run);
+    for (const reports::TextRun& run : page.runs) PaintRun(painter, run);
     painter.restore();
 }
 

@@ -8,7 +8,7 @@ class QPainter;
 namespace varnik::ui {
 
 // Paints the page with its upper left corner at the painter's origin; one unit of the painter is one
-// millimetre. A text whose font runs wider than its box is narrowed, never cut.
+// millimetre. A text whose font runs wider than its area is narrowed, never cut.
 void PaintPage(QPainter& painter, const reports::Page& page);
 
 } // namespace varnik::ui

@@ -100,13 +100,13 @@ void PageView::Reveal(const reports::Hit& hit) {
     hit_ = hit;
     const reports::Page& page = BuiltPage(hit.page);
     if (hit.run < 0 || hit.run >= static_cast<int>(page.runs.size())) return;
-    const reports::Box& box = page.runs[static_cast<std::size_t>(hit.run)].box;
-    const double perMm = PixelsPerMm(percent_), y = PageTop(hit.page) + box.y * perMm,
-                 x = Gap + box.x * perMm;
+    const reports::Area& area = page.runs[static_cast<std::size_t>(hit.run)].area;
+    const double perMm = PixelsPerMm(percent_), y = PageTop(hit.page) + area.y * perMm,
+                 x = Gap + area.x * perMm;
     const int top = verticalScrollBar()->value(), left = horizontalScrollBar()->value();
-    if (y < top + Gap || y + box.height * perMm > top + viewport()->height() - Gap)
+    if (y < top + Gap || y + area.height * perMm > top + viewport()->height() - Gap)
         verticalScrollBar()->setValue(static_cast<int>(y - viewport()->height() / 3.0));
-    if (x < left || x + box.width * perMm > left + viewport()->width())
+    if (x < left || x + area.width * perMm > left + viewport()->width())
         horizontalScrollBar()->setValue(static_cast<int>(x - Gap));
     viewport()->update();
     if (onMoved) onMoved();
@@ -145,8 +145,8 @@ void PageView::paintEvent(QPaintEvent*) {
         painter.scale(PixelsPerMm(percent_), PixelsPerMm(percent_));
         const reports::Page& built = BuiltPage(page);
         if (hit_ && hit_->page == page && hit_->run < static_cast<int>(built.runs.size())) {
-            const reports::Box& box = built.runs[static_cast<std::size_t>(hit_->run)].box;
-            painter.fillRect(QRectF(box.x, box.y, box.width, box.height).adjusted(-0.8, -0.2, 0.8, 0.2),
+            const reports::Area& area = built.runs[static_cast<std::size_t>(hit_->run)].area;
+            painter.fillRect(QRectF(area.x, area.y, area.width, area.height).adjusted(-0.8, -0.2, 0.8, 0.2),
                              HitColour);
         }
         PaintPage(painter, built);
