@@ -16,9 +16,12 @@ namespace {
 
 constexpr double SmallestSize = 6.5; // points; below it figures shrink one by one
 
+// A named text of the request: a parameter, or one of the company's lines.
 std::string Parameter(const Facts& facts, std::string_view name) {
     for (const auto& [key, value] : facts.parameters)
         if (EqualsNoCase(key, name)) return value;
+    for (std::size_t line = 0; line < facts.company.size(); ++line)
+        if (EqualsNoCase(name, "Judul" + std::to_string(line + 1))) return facts.company[line];
     return {};
 }
 

@@ -191,10 +191,9 @@ age = { date = "Tgl", from = 61 }
 
 TEST(Layout, SumsPlacesAndWordsOfTemplates) {
     const std::string definition = R"(
-title = "{Judul2|Judul1}"
 [document]
 heading = "VOUCHER"
-fields = [["Number", "{No}"], ["Nothing", "{Missing}"]]
+fields = [["Number", "{No}"], ["Seller", "{Missing|judul1}"], ["Nothing", "{Missing}"]]
 totals = [["Sum", "{sum Amount}"], ["Calculated", "{sum Twice}"]]
 words = "{Terbilang|words sum Amount} only"
 [[column]]
@@ -214,6 +213,7 @@ optional = true
     EXPECT_THAT(text, testing::ContainsRegex("Calculated +85.00\n"));
     EXPECT_THAT(text, HasSubstr("Elsewhere"));
     EXPECT_THAT(text, Not(HasSubstr("Gone")));
+    EXPECT_THAT(text, testing::ContainsRegex("Seller +TOKO MAJU JAYA\n"));
     EXPECT_THAT(text, Not(HasSubstr("Nothing")));
 }
 
