@@ -95,6 +95,7 @@ void Session::Sync() {
     if (!state_->unsynced) return;
     engine_->Sync();
     state_->unsynced = false;
+    ++state_->syncs;
 }
 
 Value Session::AsStored(const Value& value, std::size_t table, std::size_t column) {

@@ -88,6 +88,7 @@ struct Statistics {
 struct FileState {
     std::int64_t writes = 0;
     bool unsynced = false;
+    std::int64_t syncs = 0;
 };
 
 class Session final : public EngineCallbacks {

@@ -227,9 +227,10 @@ bool OnNetwork([[maybe_unused]] const std::filesystem::path& file) {
 
 // The engine takes an empty file for an empty database and would write into it.
 void RequireDatabase(const std::filesystem::path& file) {
-    std::error_code ignored;
-    if (!std::filesystem::exists(file, ignored)) Throw(Fault::CannotOpen, "missing");
-    if (std::filesystem::is_directory(file, ignored)) Throw(Fault::NotDatabase);
+    std::error_code failure;
+    const std::filesystem::file_status status = std::filesystem::status(file, failure);
+    if (status.type() == std::filesystem::file_type::not_found) Throw(Fault::CannotOpen, "missing");
+    if (status.type() == std::filesystem::file_type::directory) Throw(Fault::NotDatabase);
     std::ifstream stream(file, std::ios::binary);
     if (!stream) Throw(Fault::CannotOpen, "denied");
     char head[16] = {};
@@ -287,8 +288,8 @@ void CreateEngineFile(const std::filesystem::path& file) {
     std::fclose(fresh);
     try {
         std::unique_ptr<SqliteEngine> engine = Connect(file, SQLITE_OPEN_READWRITE);
-        engine->Run("PRAGMA page_size=4096; PRAGMA auto_vacuum=NONE; PRAGMA application_id=" +
-                    std::to_string(ApplicationId) + "; CREATE TABLE start (x); DROP TABLE start;");
+        engine->Run("PRAGMA page_size=4096; PRAGMA auto_vacuum=NONE; BEGIN; PRAGMA application_id=" +
+                    std::to_string(ApplicationId) + "; CREATE TABLE start (x); DROP TABLE start; COMMIT");
         Configure(*engine, file);
     } catch (...) {
         std::error_code ignored;
