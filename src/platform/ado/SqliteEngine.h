@@ -17,8 +17,8 @@ struct SqliteContext {
     std::int64_t steps = 0;
 };
 
-// Adds the functions that rewritten statements and stored queries call: AsStored, ReadNumber, Divisor, and
-// a LIKE that knows letters beyond ASCII.
+// Adds the functions that rewritten statements and stored queries call: AsStored, ReadNumber, Divisor,
+// divide, and a LIKE that knows letters beyond ASCII.
 void AddSqliteFunctions(sqlite3* database, SqliteContext* context);
 
 [[noreturn]] void ThrowSqliteError(sqlite3* database, int code);

@@ -52,6 +52,17 @@ void Divisor(sqlite3_context* call, int, sqlite3_value** arguments) {
     });
 }
 
+// The same for stored queries, which are not rewritten.
+void Quotient(sqlite3_context* call, int, sqlite3_value** arguments) {
+    Guarded(call, [&](SqliteContext&) {
+        if (sqlite3_value_type(arguments[0]) == SQLITE_NULL ||
+            sqlite3_value_type(arguments[1]) == SQLITE_NULL)
+            return sqlite3_result_null(call);
+        sqlite3_result_double(call,
+                              Divide(sqlite3_value_double(arguments[0]), sqlite3_value_double(arguments[1])));
+    });
+}
+
 void Like(sqlite3_context* call, int, sqlite3_value** arguments) {
     if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
         return;
@@ -91,6 +102,7 @@ void AddSqliteFunctions(sqlite3* database, SqliteContext* context) {
     add("AsStored", 3, AsStored);
     add("ReadNumber", 1, ReadNumber);
     add("Divisor", 1, Divisor);
+    add("divide", 2, Quotient);
     add("like", 2, Like);
 }
 

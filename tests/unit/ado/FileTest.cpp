@@ -72,9 +72,8 @@ TEST_F(FileTest, ACutOffFileIsToldFromASoundOne) {
 TEST_F(FileTest, ReadOnlyIsToldWhenSomethingIsWritten) {
     CreateAll();
     ReleaseDatabase(file);
-    fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
-    fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
-                                fs::perms::others_exec);
+    fs::permissions(file, fs::perms(0444));
+    fs::permissions(folder, fs::perms(0555));
     AsReader([&] {
         std::string text;
         EXPECT_EQ(FailureOf([&] { Run("Insert Into Biaya Values ('1','x')"); }, &text), EngineFault);
