@@ -115,7 +115,7 @@ void Binder::Refresh(Binding& binding) {
     for (QWidget* source : binding.EventSources())
         if (source != widget) source->setAccessibleName(name);
     if (QLabel* label = binding.Label()) {
-        label->setText(control.Caption().empty() ? fallback : ToQt(control.Caption()).trimmed());
+        label->setText(control.Caption().empty() ? fallback : ToQt(control.Caption()).simplified());
         label->setVisible(shown);
     }
     if (appears && onOverlayShown) onOverlayShown(binding);

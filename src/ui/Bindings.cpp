@@ -29,7 +29,8 @@ public:
         QObject::connect(button, &QPushButton::clicked, button, [this] { control_.Owner().Click(control_); });
     }
     void Refresh() override {
-        button_->setText(ToQt(control_.Caption()).trimmed());
+        // An ellipsis says "look up", and so does the icon.
+        button_->setText(control_.Caption() == "..." ? QString() : ToQt(control_.Caption()).trimmed());
         const QString icon = IconOfControl(control_.Name());
         const bool primary = button_->property("primary").toBool();
         if (icon.isEmpty() || (icon == icon_ && primary == primary_)) return;

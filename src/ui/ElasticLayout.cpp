@@ -1,7 +1,9 @@
 #include "ui/ElasticLayout.h"
 
 #include <QFrame>
+#include <QHeaderView>
 #include <QLayout>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace varnik::ui {
@@ -70,10 +72,13 @@ void ElasticLayout::Apply(QWidget& window) {
         if (!widget || places[i] == shown_[i]) continue;
         const ElasticControl& place = places[i];
         widget->setGeometry(place.left, place.top, place.width, place.height);
-        if (place.fontSize > 0 && place.fontSize != shown_[i].fontSize) {
+        if (place.fontSize > 0 && place.fontSize != shown_[i].fontSize && !IsContainer(*widget)) {
             QFont font = widget->font();
             font.setPixelSize(place.fontSize);
             widget->setFont(font);
+            // Under a style sheet the parts of a widget do not take its letters over.
+            for (QWidget* part : widget->findChildren<QWidget*>())
+                if (qobject_cast<QLineEdit*>(part) || qobject_cast<QHeaderView*>(part)) part->setFont(font);
             if (auto* button = qobject_cast<QPushButton*>(widget))
                 button->setIconSize(QSize(place.fontSize + 3, place.fontSize + 3));
         }

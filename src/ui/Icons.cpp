@@ -117,7 +117,6 @@ QString IconOfMenuKey(const std::string& key) {
 QString PictureOfControl(const std::string& controlName) {
     const std::string name = Lower(controlName);
     if (name == "imglogin") return QStringLiteral(":/icons/login.svg");
-    if (name == "imgtitlemaxrestore") return QStringLiteral(":/icons/maximise.svg");
     return QStringLiteral(":/icons/logo.svg");
 }
 

@@ -56,16 +56,20 @@ void PageBuilder::Dress(Binding& binding, const Node& node) {
         font.setPixelSize(font.pixelSize() * 2 + 4);
         font.setWeight(QFont::Medium);
         widget.setProperty("total", true);
+    } else if (node.title) {
+        font.setPixelSize(font.pixelSize() * 3 / 2);
+        font.setWeight(QFont::Medium);
     } else if (control.FontSize() > 0) {
         font.setPixelSize(control.FontSize() * 96 / 72);
     }
-    if (node.total || control.FontSize() > 0) widget.setFont(font);
+    if (font != window_.font()) widget.setFont(font);
+    if (node.quiet) widget.setProperty("quiet", true);
     if (node.primary) widget.setProperty("primary", true);
 
     const int unit = widget.fontMetrics().averageCharWidth();
     if (IsField(control.GetKind())) {
         const int characters = CharactersOf(control.GetKind(), node.width);
-        const int extra = control.GetKind() == Kind::TextBox ? 22 : 42;
+        const int extra = control.GetKind() == Kind::ComboBox ? 40 : 22;
         if (auto* combo = qobject_cast<QComboBox*>(&widget)) {
             combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
             combo->setMinimumContentsLength(std::max(characters, 4));
@@ -97,7 +101,7 @@ void PageBuilder::Dress(Binding& binding, const Node& node) {
         widget.setFixedSize(node.width > 0 ? node.width : 64, node.height > 0 ? node.height : 64);
         break;
     case Kind::Button:
-        widget.setMinimumWidth(92);
+        widget.setMinimumWidth(control.Caption() == "..." ? 44 : 92);
         break;
     default:
         break;
@@ -114,13 +118,20 @@ PageBuilder::Piece PageBuilder::Make(const Node& node) {
     case Node::Kind::Form:
         return MakeForm(node);
     case Node::Kind::Card:
+    case Node::Kind::Bar:
     case Node::Kind::Inside:
         return MakeFrame(node);
     case Node::Kind::Stack:
         return MakeStack(node);
     case Node::Kind::Heading: {
         auto* heading = new QLabel(ToQt(node.name), &window_);
-        heading->setProperty("heading", true);
+        heading->setProperty(node.quiet ? "quiet" : "heading", true);
+        if (node.title) {
+            QFont font = window_.font();
+            font.setPixelSize(font.pixelSize() * 3 / 2);
+            font.setWeight(QFont::Medium);
+            heading->setFont(font);
+        }
         return {heading, nullptr};
     }
     case Node::Kind::Spring:
@@ -183,7 +194,8 @@ PageBuilder::Piece PageBuilder::MakeBox(const Node& node) {
     QBoxLayout* box = node.kind == Node::Kind::Row ? static_cast<QBoxLayout*>(new QHBoxLayout)
                                                    : static_cast<QBoxLayout*>(new QVBoxLayout);
     box->setSpacing(Gap);
-    box->setContentsMargins(0, 0, 0, 0);
+    const int pad = node.padded ? Edge : 0;
+    box->setContentsMargins(pad, pad, pad, pad);
     for (const Node& child : node.children) Add(*box, child);
     return {nullptr, box};
 }
@@ -224,7 +236,9 @@ void PageBuilder::PutCell(const Node& cell, QGridLayout& grid, int row, int colu
     if (!binding) return;
     Dress(*binding, cell);
     if (QLabel* label = LabelOf(cell, *binding)) grid.addWidget(label, row, 2 * column);
-    grid.addWidget(binding->Widget(), row, fieldColumn, 1, fieldSpan);
+    const bool narrow = binding->Widget()->maximumWidth() < QWIDGETSIZE_MAX;
+    grid.addWidget(binding->Widget(), row, fieldColumn, 1, fieldSpan,
+                   narrow ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment());
 }
 
 PageBuilder::Piece PageBuilder::MakeForm(const Node& node) {
@@ -240,7 +254,8 @@ PageBuilder::Piece PageBuilder::MakeForm(const Node& node) {
         }
         columns = std::max(columns, column);
     }
-    for (int column = 1; column < columns; ++column) grid->setColumnMinimumWidth(2 * column, 0);
+    // Captions and fields keep together at the left; what is left over goes to the last fields.
+    grid->setColumnStretch(2 * columns - 1, 1);
     return {nullptr, grid};
 }
 
@@ -251,7 +266,7 @@ PageBuilder::Piece PageBuilder::MakeFrame(const Node& node) {
         frame = binding ? qobject_cast<QFrame*>(binding->Widget()) : nullptr;
     } else {
         frame = new QFrame(&window_);
-        frame->setProperty("card", true);
+        frame->setProperty(node.kind == Node::Kind::Bar ? "bar" : "card", true);
     }
     if (!frame) return node.children.empty() ? Piece{} : Make(node.children.front());
     auto* column = new QVBoxLayout(frame);
@@ -354,8 +369,8 @@ void PageBuilder::PlaceOverlays(const Page& page) {
     for (const Overlay& overlay : page.overlays) {
         Binding* binding = binder_.Find(overlay.control);
         if (!binding || !binding->Widget()) continue;
-        constexpr int toolRow = 40;
-        const QRect room = window_.rect().adjusted(Edge + 12, Edge + toolRow + 12, -Edge - 12, -Edge);
+        constexpr int toolRow = 43; // stays in reach
+        const QRect room = window_.rect().adjusted(Edge, Edge + toolRow, -Edge, -Edge);
         const QSize size(overlay.width > 0 ? overlay.width : room.width(),
                          overlay.height > 0 ? overlay.height : room.height());
         binding->Widget()->setGeometry(QRect(room.topLeft(), size.boundedTo(room.size())));

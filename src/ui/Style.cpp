@@ -27,6 +27,7 @@ constexpr const char* Sheet = R"css(
 QWidget { color: @text; }
 QWidget#window, QDialog, QMessageBox { background: @window; }
 QFrame[card="true"] { background: @card; border: 1px solid @border; border-radius: 8px; }
+QFrame[bar="true"] { background: @card; border: none; border-bottom: 1px solid @border; }
 QFrame[overlay="true"] { background: @card; border: 1px solid @accent; border-radius: 8px; }
 QLabel { background: transparent; }
 QLabel[quiet="true"] { color: @quietText; }
@@ -73,13 +74,13 @@ QCheckBox:disabled, QRadioButton:disabled { color: @quietText; }
 QTableView { background: @card; alternate-background-color: @zebra; color: @text; border: 1px solid @border;
     border-radius: 6px; gridline-color: @fadedBorder; selection-background-color: @selection; selection-color: @text; outline: none; }
 QTableView:focus, QTreeView:focus { border: 2px solid @accent; }
-QTableView::item { padding: 0 6px; border: none; }
+QTableView::item { padding: 0 5px; border: none; }
 QTableView::item:selected { background: @selection; color: @text; }
 QHeaderView { background: transparent; border: none; }
-QHeaderView::section { background: @lockedGround; color: @quietText; border: none; border-bottom: 1px solid @border; padding: 5px 7px; }
+QHeaderView::section { background: @lockedGround; color: @quietText; border: none; border-bottom: 1px solid @border; padding: 5px 8px; }
 QTableCornerButton::section { background: @lockedGround; border: none; }
 QTreeView { background: @card; color: @text; border: 1px solid @border; border-radius: 6px; outline: none; padding: 4px; }
-QTreeView::item { padding: 4px 2px; border-radius: 4px; }
+QTreeView::item { padding: 1px 2px; border-radius: 4px; }
 QTreeView::item:hover { background: @zebra; }
 QTreeView::item:selected { background: @selection; color: @text; }
 QTreeView::branch { background: transparent; }

@@ -56,8 +56,9 @@ public:
             if (columns[i].width > columns[static_cast<std::size_t>(widest)].width)
                 widest = static_cast<int>(i);
         }
-        const int rest = viewport()->width() - sum;
-        if (rest > 0) widths[static_cast<std::size_t>(widest)] += rest;
+        // The widest column takes what is left, and gives up to half of its own before the table scrolls.
+        int& wide = widths[static_cast<std::size_t>(widest)];
+        wide = std::max(wide + viewport()->width() - sum, wide / 2);
         for (int i = 0; i < static_cast<int>(widths.size()); ++i) {
             setColumnHidden(i, widths[static_cast<std::size_t>(i)] == 0);
             horizontalHeader()->resizeSection(i, widths[static_cast<std::size_t>(i)]);
@@ -71,7 +72,10 @@ protected:
     }
     void changeEvent(QEvent* event) override {
         QTableView::changeEvent(event);
-        if (event->type() == QEvent::FontChange) Spread();
+        if (event->type() != QEvent::FontChange || !model()) return;
+        static_cast<TableModel*>(model())->SetHeadingFont(font());
+        horizontalHeader()->setFont(font());
+        Spread();
     }
 };
 

@@ -52,6 +52,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
         return {};
     const forms::GridColumn& column = Columns()[static_cast<std::size_t>(section)];
     if (role == Qt::DisplayRole) return ToQt(column.caption);
+    if (role == Qt::FontRole) return headingFont_;
     if (role == Qt::TextAlignmentRole) {
         if (column.align == forms::Align::Right) return int(Qt::AlignRight | Qt::AlignVCenter);
         if (column.align == forms::Align::Center) return int(Qt::AlignCenter);

@@ -5,6 +5,8 @@
 #include "platform/forms/Grid.h"
 
 #include <QAbstractTableModel>
+#include <QFont>
+#include <QVariant>
 
 namespace varnik::ui {
 
@@ -18,6 +20,9 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+    // Under a style sheet the headings do not take the table's letters over.
+    void SetHeadingFont(const QFont& font) { headingFont_ = font; }
+
     virtual const std::vector<forms::GridColumn>& Columns() const = 0;
     virtual int CurrentRow() const = 0; // of the view, -1 for none
     virtual void Select(int row) = 0;   // by a person
@@ -29,6 +34,7 @@ protected:
 
 private:
     int rows_ = 0, columns_ = 0;
+    QVariant headingFont_;
 };
 
 // The lines of a document; the control's row 0 are the headings.

@@ -36,6 +36,7 @@ Node Form(std::vector<std::vector<Node>> rows) { return {Node::Kind::Form, "", {
 Node Card(std::string heading, Node content) {
     return {Node::Kind::Card, std::move(heading), {std::move(content)}, {}};
 }
+Node Bar(Node content) { return {Node::Kind::Bar, "", {std::move(content)}, {}}; }
 Node Inside(std::string frame, Node content) {
     return {Node::Kind::Inside, std::move(frame), {std::move(content)}, {}};
 }

@@ -9,16 +9,15 @@ std::vector<Page> MasterPages() {
         Card("", Form({{Field("txtKode", 14), Field("Check1")},
                        {Field("txtNama").Span(2)},
                        {Row({Field("TxtJenis", 5).Label("Type"), Field("Combo1").Share(1)}).Span(2)}})),
-        Row({Card("Units and prices",
-                  Form({{Field("TxtSatuan", 10), Field("txtPecahan", 7)},
-                        {Field("TxtSatuanBeli", 10), Field("TxtPecahanBeli", 7), Field("txtHargaBeli", 12)},
-                        {Field("TxtSatuanJual", 10), Field("TxtPecahanJual", 7), Field("TxtHargaJual", 12)}}))
-                 .Share(1)}),
+        Card("Units and prices",
+             Form({{Field("TxtSatuan", 10), Field("txtPecahan", 7)},
+                   {Field("TxtSatuanBeli", 10), Field("TxtPecahanBeli", 7), Field("txtHargaBeli", 12)},
+                   {Field("TxtSatuanJual", 10), Field("TxtPecahanJual", 7), Field("TxtHargaJual", 12)}})),
         Row({Card("Stock", Form({{Field("txtQCounter", 10), Field("TxtQAwal", 10)},
                                  {Field("TxtQGudang", 10), Field("txtOnOrder", 10).Label("On Order")},
                                  {Field("TxtOnHand", 10), Field("TxtHPPRata", 10)}})),
              Card("Supplier",
-                  Form({{Field("TxtKodeSup", 24)}, {Field("txtKodeRef", 24)}, {Field("txtket", 24)}}))
+                  Form({{Field("TxtKodeSup")}, {Field("txtKodeRef")}, {Field("txtket")}}))
                  .Share(1)}),
     });
     return {MasterPage("fProduk", std::move(product))};

@@ -19,6 +19,7 @@ struct Node {
         Column,
         Form,    // rows of cells, captions aligned
         Card,    // a panel on the ground of the window, with a heading when `name` is given
+        Bar,     // a strip along the upper edge of the window
         Inside,  // what stands in a frame of the screen
         Stack,   // panels that take turns at one place
         Spring,  // takes what is left
@@ -38,6 +39,9 @@ struct Node {
     bool primary = false;  // the button that finishes the work
     bool total = false;    // the large amount
     bool bare = false;     // without its caption
+    bool title = false;    // a caption in large type
+    bool quiet = false;    // a caption in quiet colour
+    bool padded = false;   // away from the window's edge
     bool centred = false;
     bool above = false; // the caption over the field instead of before it
 
@@ -48,6 +52,9 @@ struct Node {
     Node High(int lines) && { return height = lines, std::move(*this); }
     Node Primary() && { return primary = true, std::move(*this); }
     Node Total() && { return total = true, std::move(*this); }
+    Node Title() && { return title = true, std::move(*this); }
+    Node Quiet() && { return quiet = true, std::move(*this); }
+    Node Padded() && { return padded = true, std::move(*this); }
     Node Bare() && { return bare = true, std::move(*this); }
     Node Centred() && { return centred = true, std::move(*this); }
     Node Above() && { return above = true, std::move(*this); }
@@ -62,6 +69,7 @@ Node Row(std::vector<Node> children);
 Node Column(std::vector<Node> children);
 Node Form(std::vector<std::vector<Node>> rows);
 Node Card(std::string heading, Node content);
+Node Bar(Node content);
 Node Inside(std::string frame, Node content);
 Node Stack(std::vector<Node> panels);
 Node Heading(std::string text);

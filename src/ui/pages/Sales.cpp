@@ -14,6 +14,7 @@ Node EntryLine() {
              Field("TxtBru", 11).Above(), Field("TxtDis", 11).Above(), Field("TxtHrgTot", 11).Above(),
              Spring()}),
         Row({Button("bttnAddLine").Primary(), Button("cmdBatalLine"), Spring()}),
+        Spring(),
     });
 }
 
@@ -21,7 +22,7 @@ Node Totals(std::string last) {
     return Card("", Form({{Field("TxtJumBru", 12), Field("TxtJumNetto", 12)},
                           {Field("TxtJumDis", 12), Field("TxtJumPPN", 12)},
                           {Field("txtJumTotal", 14).Total().Label("Total").Span(2)},
-                          {Field(std::move(last), 12)}}));
+                          {Spring(), Field(std::move(last), 12)}}));
 }
 
 } // namespace

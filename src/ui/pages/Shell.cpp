@@ -4,36 +4,45 @@
 
 namespace varnik::ui {
 
+namespace {
+
+// A picture at the left, what it belongs to at the right.
+Node Illustrated(Node picture, Node content) {
+    return Row({std::move(picture), std::move(content).Share(1)});
+}
+
+Page Main() {
+    Node bar = Bar(Row({Picture("imgTitleMaxRestore", 24, 24), Field("lblFile"), Field("lblTool"),
+                        Field("lblHelp"), Spring()}));
+    Node welcome = Card(
+        "",
+        Column({Spring(), Picture("Logo", 200, 200).Centred(),
+                Heading("Varnik Ledger Suite").Title().Centred(),
+                Heading("Choose a screen in the menu: arrow keys and Enter, or a click").Quiet().Centred(),
+                Spring()}));
+    Node body = Row({Table("TV", 24), std::move(welcome).Share(2)}).Share(1).Padded();
+    return {"frmMainCode", Family::Main, Column({std::move(bar), std::move(body), Field("sbStatusBar")})};
+}
+
+} // namespace
+
 std::vector<Page> ShellPages() {
     Page login = DialogPage(
         "fLogin",
-        Row({Picture("ImgLogin", 112, 112),
-             Form({{Field("txtUserId", 24).By("Label1")}, {Field("txtPassword", 24).By("Label2")}})}),
+        Illustrated(Picture("ImgLogin", 112, 112),
+                    Form({{Field("txtUserId", 24).By("Label1")}, {Field("txtPassword", 24).By("Label2")}})),
         {"cmdOK", "cmdBatal"});
-
     Page splash{"frmSplash", Family::Splash,
-                Row({Picture("imgLogo", 150, 150), Column({Spring(), Field("lblProductName"), Field("Label1"),
-                                                           Field("Lblversi1"), Field("LblVersi2"), Spring()})
-                                                       .Share(1)})};
-
-    Page main{
-        "frmMainCode", Family::Main,
-        Column({Row({Field("lblFile"), Field("lblTool"), Field("lblHelp"), Spring(),
-                     Picture("imgTitleMaxRestore", 20, 20)}),
-                Row({Table("TV", 18),
-                     Card("", Column({Spring(), Picture("Logo", 320, 300).Centred(), Spring()})).Share(1)})
-                    .Share(1),
-                Field("sbStatusBar")})};
-
+                Illustrated(Picture("imgLogo", 150, 150),
+                            Column({Spring(), Field("lblProductName").Title(), Field("Label1"),
+                                    Field("Lblversi1").Quiet(), Field("LblVersi2").Quiet(), Spring()}))};
     Page about = DialogPage(
         "frmAbout",
-        Row({Picture("Image1", 112, 112),
-             Column({Field("Label1"), Field("Lblversi1"), Field("LblVersi2"), Field("lb_email"), Spring()})
-                 .Share(1)}),
+        Illustrated(Picture("Image1", 112, 112), Column({Field("Label1").Title(), Field("Lblversi1").Quiet(),
+                                                         Field("LblVersi2"), Field("lb_email"), Spring()})),
         {"cmdOK", "cmdSysInfo"});
-
     Page dialog = DialogPage("Dialog", Spring(), {"OKButton", "CancelButton"});
-    return {login, splash, main, about, dialog};
+    return {Main(), login, splash, about, dialog};
 }
 
 } // namespace varnik::ui
