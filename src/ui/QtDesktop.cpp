@@ -1,13 +1,17 @@
 #include "ui/QtDesktop.h"
 
 #include "platform/desktop/Failure.h"
+#include "platform/desktop/Services.h"
 #include "platform/forms/Controls.h"
+#include "reports/engine/Report.h"
 #include "ui/Icons.h"
 #include "ui/QtText.h"
 #include "ui/ScreenWindow.h"
 #include "ui/Style.h"
+#include "ui/preview/PreviewWindow.h"
 
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
@@ -27,8 +31,13 @@ QtDesktop::QtDesktop(std::filesystem::path programFolder, const Regional& region
     QApplication::setQuitOnLastWindowClosed(false); // between login and main window there is none
 }
 
-QtDesktop::~QtDesktop() {
+QtDesktop::~QtDesktop() { DropScreens(); }
+
+void QtDesktop::DropScreens() {
+    for (const QPointer<QWidget>& preview : previews_) delete preview;
+    previews_.clear();
     for (ScreenWindow* window : Windows()) delete window;
+    windows_.clear();
 }
 
 // ---- Screens ----
@@ -118,6 +127,7 @@ void QtDesktop::PopUp(forms::Menu& menu, forms::Control& below) {
     ScreenWindow* window = WindowOf(below.Owner());
     QWidget* label = window ? window->Binding().WidgetOf(below.Name()) : nullptr;
     if (!label) return;
+    if (!menu.Owner().onFailure) ReportFailures(menu.Owner(), *this); // a holder of menus is never shown
     auto* list = new QMenu(window);
     list->setAttribute(Qt::WA_DeleteOnClose);
     list->setObjectName(ToQt(menu.Name()));
@@ -172,6 +182,8 @@ void QtDesktop::DragMainWindow() {
 
 void QtDesktop::Quit() {
     ended_ = true;
+    for (const QPointer<QWidget>& preview : previews_)
+        if (preview) preview->close();
     for (ScreenWindow* window : Windows()) {
         window->hide();
         window->deleteLater();
@@ -182,8 +194,12 @@ void QtDesktop::Quit() {
 // ---- What leaves the program ----
 
 void QtDesktop::LaunchReport(const ReportRequest& request) {
-    MessageBox({"The preview of \"" + request.ReportFileName + "\" is not built yet.", "Varnik",
-                Icon::Information, Buttons::Ok});
+    if (!services_) throw ado::DataError(0, "There are no reports here.");
+    auto* preview = new PreviewWindow(reports::OpenReport(request, *services_));
+    preview->setWindowIcon(QIcon(QStringLiteral(":/icons/logo.svg")));
+    std::erase_if(previews_, [](const QPointer<QWidget>& known) { return !known; });
+    previews_.emplace_back(preview);
+    preview->ShowAsAsked();
 }
 
 bool QtDesktop::OpenWithShell(const std::string& target) {
@@ -210,8 +226,11 @@ DateTime QtDesktop::Now() {
 
 bool QtDesktop::AnotherInstanceRuns() {
     if (!lock_) {
-        lock_ = std::make_unique<QLockFile>(
-            QDir(ToQt(programFolder_.string())).filePath(QStringLiteral("Varnik.lock")));
+        // One of this machine: other workstations may share the folder.
+        const QByteArray folder = QByteArray::fromStdString(programFolder_.lexically_normal().string());
+        const QString key =
+            QString::fromLatin1(QCryptographicHash::hash(folder, QCryptographicHash::Sha1).toHex());
+        lock_ = std::make_unique<QLockFile>(QDir::temp().filePath(QStringLiteral("varnik-%1.lock").arg(key)));
         lock_->setStaleLockTime(0);
     }
     if (lock_->isLocked()) return false;

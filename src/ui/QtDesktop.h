@@ -14,6 +14,10 @@
 class QLockFile;
 class QWidget;
 
+namespace varnik {
+struct Services;
+}
+
 namespace varnik::ui {
 
 class ScreenWindow;
@@ -46,6 +50,10 @@ public:
     std::filesystem::path ProgramFolder() override { return programFolder_; }
     void Quit() override;
 
+    // What reports are opened with; until it is set a report is a DataError.
+    void SetServices(Services& services) { services_ = &services; }
+    // Takes all windows away, as before what their screens were built with goes.
+    void DropScreens();
     // Whether the program was told to end, perhaps before its event loop began.
     bool Ended() const { return ended_; }
     ScreenWindow* WindowOf(const forms::Screen& screen) const;
@@ -60,7 +68,9 @@ private:
     std::filesystem::path programFolder_;
     const Regional& regional_;
     std::vector<QPointer<ScreenWindow>> windows_;
+    std::vector<QPointer<QWidget>> previews_;
     std::unique_ptr<QLockFile> lock_;
+    Services* services_ = nullptr;
     QObject later_; // what is queued goes with it
     int pending_ = 0;
     bool hourglass_ = false;
