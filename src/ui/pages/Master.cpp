@@ -16,8 +16,7 @@ std::vector<Page> MasterPages() {
         Row({Card("Stock", Form({{Field("txtQCounter", 10), Field("TxtQAwal", 10)},
                                  {Field("TxtQGudang", 10), Field("txtOnOrder", 10).Label("On Order")},
                                  {Field("TxtOnHand", 10), Field("TxtHPPRata", 10)}})),
-             Card("Supplier",
-                  Form({{Field("TxtKodeSup")}, {Field("txtKodeRef")}, {Field("txtket")}}))
+             Card("Supplier", Form({{Field("TxtKodeSup")}, {Field("txtKodeRef")}, {Field("txtket")}}))
                  .Share(1)}),
     });
     return {MasterPage("fProduk", std::move(product))};
