@@ -1,6 +1,7 @@
 #include "app/Program.h"
 
 #include "data/DataSource.h"
+#include "master/Master.h"
 #include "sales/Sales.h"
 #include "shell/Main.h"
 
@@ -12,6 +13,7 @@ Program::Program(Desktop& desktop, const Regional& machine)
       data_(data::MakeEnvironment(regional_, registry_)),
       services_{session_, desktop, data_, regional_, registry_} {
     RegisterShell(services_);
+    RegisterMaster(services_);
     RegisterSales(services_);
 }
 

@@ -70,6 +70,7 @@ void Start(Stage& stage, Call&) {
 void TypeInto(Stage& stage, const std::string& field, const std::string& text) {
     forms::Control& control = stage.Reach(field);
     stage.desktop.Keys().SelectAll(dynamic_cast<forms::TextControl&>(control));
+    if (text.empty()) stage.desktop.Keys().Press(control.Owner(), {.code = forms::KeyCode::Delete});
     for (const forms::Key& key : PlainKeys(text)) stage.desktop.Keys().Press(control.Owner(), key);
 }
 
