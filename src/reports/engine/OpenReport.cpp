@@ -43,10 +43,10 @@ std::optional<Rows> TryRead(const std::string& sql, ado::Connection& connection)
     }
 }
 
-// Faults of the data or the machine; everything else means that the text itself cannot be run.
-bool IsFaultOfData(long number) {
-    return number == ado::DivisionByZero || number == ado::TypeMismatch || number == ado::Overflow ||
-           number == ado::EngineFault;
+// Whether it is the text itself that cannot be run, and not the data or the machine.
+bool CannotBeCompiled(const ado::DataError& fault) {
+    return fault.Number() == ado::SyntaxFault || fault.Number() == ado::UnknownTable ||
+           fault.Number() == ado::UnknownColumn;
 }
 
 // Runs the request's statement. When it cannot be run, it is tried with empty columns in place of those
@@ -61,7 +61,7 @@ Rows RunStatement(const Definition& definition, ado::Connection& connection, Fac
             facts.statement = asked;
             return Read(asked, connection);
         } catch (const ado::DataError& fault) {
-            if (IsFaultOfData(fault.Number()) || !LiteralsClosed(asked)) throw;
+            if (!CannotBeCompiled(fault) || !LiteralsClosed(asked)) throw;
             const auto runs = [&](const std::string& sql) { return TryRead(sql, connection).has_value(); };
             if (const auto filled = WithoutMissingColumns(asked, runs))
                 if (auto rows = TryRead(*filled, connection)) {

@@ -1,6 +1,7 @@
 // CSV, spreadsheet, and what of a report's forms they carry.
 
 #include "platform/ado/Ado.h"
+#include "tests/support/TemporaryShop.h"
 #include "tests/unit/reports/ReportCases.h"
 
 #include <gmock/gmock.h>
@@ -12,14 +13,9 @@ namespace {
 
 class Output : public testing::Test {
 protected:
-    void SetUp() override {
-        folder = std::filesystem::temp_directory_path() /
-                 ("varnik-report-" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
-        std::filesystem::create_directories(folder);
-    }
-    void TearDown() override { std::filesystem::remove_all(folder); }
     bool FolderIsEmpty() const { return std::filesystem::is_empty(folder); }
-    std::filesystem::path folder;
+    TemporaryFolder temporary;
+    const std::filesystem::path folder = temporary.Path();
 };
 
 constexpr const char* Lines = R"(
