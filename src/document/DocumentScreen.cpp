@@ -48,6 +48,7 @@ void DocumentScreen::Save() {
         Reverse();
         bttnSave.SetCaption("&Save");
     }
+    ado::SyncWritten();
     bttnSave.SetEnabled(true);
     SetMode(EntryMode::Browsing);
     EntryEnded();
@@ -72,10 +73,6 @@ void DocumentScreen::MovesBackAlong(std::vector<forms::Control*> fields) {
     backwards_.push_back(std::move(fields));
 }
 
-void DocumentScreen::GoOn(forms::Control& next) {
-    if (!movingBack_) SetFocus(next);
-}
-
 void DocumentScreen::PreviewKeyDown(forms::Key& key) {
     if (!key.Is(forms::KeyCode::F2)) return;
     for (const auto& fields : backwards_) {
@@ -85,10 +82,7 @@ void DocumentScreen::PreviewKeyDown(forms::Key& key) {
         while (at != fields.begin()) {
             --at;
             if (!(*at)->CanFocus() || !(*at)->TabStop()) continue;
-            movingBack_ = true;
-            SetFocus(**at);
-            movingBack_ = false;
-            return;
+            return SetFocus(**at);
         }
     }
 }

@@ -52,14 +52,14 @@ protected:
     static void TypesCapitals(std::initializer_list<forms::Control*> fields);
     // F2 moves from each of these fields to the one before it.
     void MovesBackAlong(std::vector<forms::Control*> fields);
-    // While F2 moves back, a field's leaving does its work but does not send the focus onwards.
-    bool MovingBack() const { return movingBack_; }
-    void GoOn(forms::Control& next);
 
     // The connection of the screen's life: look-ups and lists.
     ado::Connection& Data() { return connection_; }
     // Opens a look-up. A statement that fails (a quote in a field) finds nothing, as on every screen.
     bool Found(ado::Recordset& rows, const std::string& sql);
+
+    // A yes/no column.
+    bool Yes(const Value& value) const { return NullToNumber(value, services_.regional) != 0; }
 
 private:
     void Save();
@@ -67,7 +67,6 @@ private:
     ado::Connection connection_;
     EntryMode entryMode_ = EntryMode::Browsing;
     std::vector<std::vector<forms::Control*>> backwards_;
-    bool movingBack_ = false;
 };
 
 // The hourglass for as long as it lives.

@@ -57,7 +57,7 @@ void Invoice::DeleteLine(Guard& step, ado::Connection& connection, ado::Recordse
     step.Step([&] { product.Open("Select * From Produk Where  KodeBrg='" + code + "'", connection); });
     step.Step([&] { known = !product.Empty(); });
     // A product that is gone since then fails here.
-    step.Step([&] { service = Number(product["Jasa"].Value()) != 0; });
+    step.Step([&] { service = Yes(product["Jasa"]); });
     if (known && !service) {
         step.Step([&] { onHand = Number(product["OnHand"].Value()); });
         step.PutRow(product, {{"QGudang", [&] { return Number(product["QGudang"].Value()) + base; }},

@@ -92,7 +92,7 @@ Invoice::Invoice(Services& services)
     TxtNamaCus.onLeave = [this] { NameLeft(); };
 
     line_.txtKodeBrg.onChange = [this] { CodeTyped(); };
-    line_.txtKodeBrg.onLeave = [this] { ChooseProduct(); };
+    line_.txtKodeBrg.onLeave = [this] { CodeLeft(); };
     line_.txtQty.onChange = [this] { QuantityTyped(); };
     line_.txtHarga.onChange = [this] { PriceTyped(); };
     line_.TxtDis.onChange = [this] { DiscountTyped(); };
@@ -204,7 +204,7 @@ void Invoice::OpenReceipt() {
     bttnBayar.SetEnabled(true);
 }
 
-// ---- The header ----
+// ---- The header: each field goes on to the one after it ----
 
 void Invoice::NumberTyped() {
     ado::Recordset invoice;
@@ -230,7 +230,6 @@ void Invoice::NumberLeft() {
         CancelEntry();
     } else if (isNew) {
         bttnSave.SetEnabled(true);
-        GoOn(TxtTglInvoice);
     } else {
         Say("Invoice with this number is not found ...");
         bttnSave.SetCaption("&Save");
@@ -244,17 +243,13 @@ void Invoice::DueDateLeft() {
         Say("Due date is not valid...");
     else if (!IsDate(TxtJTP.Text(), services_.regional))
         Say("Date format is not valid" + std::string(CrLf) + "Example : " + Shown(Today()));
-    else {
-        GoOn(TxtPPN);
+    else
         return;
-    }
     SetFocus(TxtJTP);
 }
 
 void Invoice::TaxLeft() {
-    if (Browsing()) return;
-    RecalcFromGrid();
-    GoOn(TxtKodeCus);
+    if (!Browsing()) RecalcFromGrid();
 }
 
 void Invoice::CustomerLeft() {

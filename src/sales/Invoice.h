@@ -63,9 +63,10 @@ private:
     void ClearInvoice();
 
     // --- Lines ---
-    void ChooseProduct();
-    void ShowProduct(ado::Recordset& product);
     void CodeTyped();
+    void CodeLeft();
+    bool ChooseProduct();
+    void ShowProduct(ado::Recordset& product);
     void QuantityTyped();
     void PriceTyped();
     void ShowAmounts(double rate);
@@ -83,7 +84,7 @@ private:
     // --- Lists ---
     void ListCustomers();
     void ListProducts();
-    void OpenList(const std::string& sql, forms::TextBox& field, void (Invoice::*left)());
+    void OpenList(const std::string& sql, forms::TextBox& field, std::function<void()> picked);
     void TakeFound();
 
     // --- The data ---

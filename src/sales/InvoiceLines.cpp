@@ -17,17 +17,27 @@ void Invoice::CodeTyped() {
     const std::string code = Trim(line_.txtKodeBrg.Text());
     if (code.empty() || !Found(product, "Select * From Produk Where  KodeBrg='" + code + "'")) return;
     ShowProduct(product);
+    SetFocus(line_.txtQty);
     codeHit_ = Focused() == &line_.txtQty;
 }
 
-void Invoice::ChooseProduct() {
+void Invoice::CodeLeft() {
     if (Browsing() || GridCari.Visible()) return;
+    // A blank code is nothing to look for when the person has gone to another field.
+    const bool blank = Trim(line_.txtKodeBrg.Text()).empty();
+    if (blank && !MovingOn()) return;
+    if (!ChooseProduct()) {
+        if (line_.bttnSearch.IsShown()) SetFocus(line_.bttnSearch);
+    } else if (MovingOn())
+        SetFocus(line_.txtQty);
+}
+
+bool Invoice::ChooseProduct() {
     ado::Recordset product;
     const std::string code = Trim(line_.txtKodeBrg.Text());
-    if (Found(product, "Select * From Produk Where  KodeBrg='" + code + "'"))
-        ShowProduct(product);
-    else if (line_.bttnSearch.IsShown())
-        SetFocus(line_.bttnSearch);
+    if (!Found(product, "Select * From Produk Where  KodeBrg='" + code + "'")) return false;
+    ShowProduct(product);
+    return true;
 }
 
 void Invoice::ShowProduct(ado::Recordset& product) {
@@ -41,7 +51,7 @@ void Invoice::ShowProduct(ado::Recordset& product) {
         line_.TxtHrgTot.SetText(price);
         line_.TxtDis.SetText("0");
     }
-    line_.Check2.SetChecked(Number(product["Jasa"].Value()) != 0);
+    line_.Check2.SetChecked(Yes(product["Jasa"]));
     // Wanted: the prices of the units are kept and read by nothing. Choosing another unit changes no price.
     const auto unit = [&](int index, const char* name, const char* pecahan, double of) {
         units_.Set(index, TextOf(product[name]), Number(product[pecahan].Value()), of);
@@ -52,7 +62,6 @@ void Invoice::ShowProduct(ado::Recordset& product) {
     units_.Fold();
     line_.TxtSatuan.SetItems(units_.Offered());
     line_.TxtSatuan.SetText(TextOf(product["SatuanJual"]));
-    SetFocus(line_.txtQty);
 }
 
 // ---- Amounts while typing: a percentage of discount survives a change of quantity or price ----
@@ -94,7 +103,6 @@ void Invoice::DiscountLeft() {
     const double amount = typed < 100 ? typed * bruto / 100 : typed;
     line_.TxtDis.SetText(Masked(amount, Fine));
     line_.TxtHrgTot.SetText(Mask(bruto - amount));
-    GoOn(line_.bttnAddLine);
 }
 
 // ---- The grid ----

@@ -9,7 +9,7 @@ void Invoice::ListCustomers() {
     OpenList(name.empty() ? "SELECT KodeCus,NamaCus FROM Customer Order By KodeCus"
                           : "SELECT KodeCus,NamaCus FROM Customer  Where NamaCus Like '%" + name +
                                 "%' Order By KodeCus",
-             TxtKodeCus, &Invoice::CustomerLeft);
+             TxtKodeCus, [this] { CustomerLeft(); });
 }
 
 void Invoice::ListProducts() {
@@ -18,18 +18,21 @@ void Invoice::ListProducts() {
     OpenList(description.empty() ? "SELECT KodeBrg,NamaBrg FROM produk Order by KodeBrg "
                                  : "SELECT KodeBrg,NamaBrg FROM Produk where NamaBrg Like '%" + description +
                                        "%' Order By Kodebrg",
-             line_.txtKodeBrg, &Invoice::ChooseProduct);
+             line_.txtKodeBrg, [this] {
+                 ChooseProduct();
+                 SetFocus(line_.txtQty);
+                 codeHit_ = false;
+             });
 }
 
-void Invoice::OpenList(const std::string& sql, forms::TextBox& field, void (Invoice::*left)()) {
+void Invoice::OpenList(const std::string& sql, forms::TextBox& field, std::function<void()> picked) {
     ado::Recordset rows;
     Found(rows, sql);
     GridCari.Open(rows.IsOpen() ? document::CodesAndNames(rows, services_.regional)
                                 : std::vector<std::string>{},
-                  field, [this, &field, left](const std::string& code) {
+                  field, [&field, picked](const std::string& code) {
                       field.SetText(code);
-                      (this->*left)();
-                      codeHit_ = false;
+                      picked();
                   });
 }
 

@@ -125,7 +125,7 @@ void Invoice::PostLine(Guard& step, ado::Connection& connection, ado::Recordset&
     step.Step([&] { product.Open("Select * From Produk Where  KodeBrg='" + code + "'", connection); });
     step.Step([&] { known = !product.Empty(); });
     if (known) {
-        step.Step([&] { service = Number(product["Jasa"].Value()) != 0; });
+        step.Step([&] { service = Yes(product["Jasa"]); });
         if (!service) {
             step.Step([&] { onHand = Number(product["OnHand"].Value()); });
             step.Put(product, {{"QGudang", [&] { return Number(product["QGudang"].Value()) - base; }},

@@ -25,6 +25,16 @@ struct Depth {
     int& count;
 };
 
+// A flag that holds for as long as it lives.
+struct While {
+    While(bool& flag, bool value) : flag_(flag), before_(std::exchange(flag, value)) {}
+    ~While() { flag_ = before_; }
+    While(const While&) = delete;
+    While& operator=(const While&) = delete;
+    bool& flag_;
+    bool before_;
+};
+
 } // namespace
 
 Screen::Screen(std::string name, std::string caption)
@@ -137,7 +147,9 @@ void Screen::MoveFocus(Control& control) { SetFocus(control); }
 
 void Screen::MoveNext(bool backwards) {
     Control* const next = Next(focused_, backwards, true);
-    if (next) SetFocus(*next);
+    if (!next) return;
+    const While moving(movingOn_, !backwards);
+    SetFocus(*next);
 }
 
 // ---- Clicks ----

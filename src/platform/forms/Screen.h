@@ -43,6 +43,9 @@ public:
     // and then that call holds. Nothing happens for a control that cannot take it.
     void SetFocus(Control& control);
     Control* Focused() const { return focused_; }
+    // Whether the leaving under way comes from a key that moves on (Enter, Tab), not from a person who went
+    // to a field of choice: that choice holds, where a rule only says what comes next.
+    bool MovingOn() const { return movingOn_; }
     void SetDefault(Control* button) { default_ = button; } // Enter presses it
     Control* Default() const { return default_; }
     void SetCancel(Control* button) { cancel_ = button; } // Escape presses it, without leaving the field
@@ -98,7 +101,7 @@ private:
     Control* cancel_ = nullptr;
     unsigned focusMoves_ = 0;
     int depth_ = 0; // of handlers under way
-    bool closed_ = false;
+    bool closed_ = false, movingOn_ = false;
 };
 
 } // namespace varnik::forms
