@@ -1,0 +1,84 @@
+#include "bench/BenchShop.h"
+
+#include "bench/Fill.h"
+#include "data/Numbering.h"
+#include "platform/forms/Controls.h"
+#include "platform/forms/Grid.h"
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace varnik::bench {
+
+BenchShop::BenchShop(long sales) {
+    std::string name = (std::filesystem::temp_directory_path() / "varnik-bench-XXXXXX").string();
+    if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
+    folder_ = name;
+    desktop_ = std::make_unique<TestDesktop>();
+    desktop_->folder = folder_;
+    program_ = std::make_unique<Program>(*desktop_, Regional{});
+    program_->Start();
+    auto& login = *desktop_->FindScreen("fLogin");
+    dynamic_cast<forms::TextControl&>(*login.FindControl("txtUserId")).SetText("varnik");
+    dynamic_cast<forms::TextControl&>(*login.FindControl("txtPassword")).SetText("kemiri");
+    login.Click(*login.FindControl("cmdOK"));
+    if (!Access().session.LoggedIn) throw std::runtime_error("the login failed");
+    FillShop(Database(), sales);
+    bare_ = std::make_unique<BareLoop>(Database());
+}
+
+BenchShop::~BenchShop() {
+    bare_.reset();
+    desktop_->screens.clear();
+    program_.reset();
+    std::error_code ignored;
+    std::filesystem::remove_all(folder_, ignored);
+}
+
+void BenchShop::OpenAndClose(const std::string& key) {
+    OpenScreen(Access(), key, key);
+    desktop_->screens.back()->Close();
+}
+
+forms::Control& BenchShop::On(const std::string& control) {
+    forms::Control* found = invoice_->FindControl(control);
+    if (!found) throw std::runtime_error("Invoice has no " + control);
+    return *found;
+}
+
+void BenchShop::Type(const std::string& control, const std::string& text) {
+    auto& field = dynamic_cast<forms::TextControl&>(On(control));
+    invoice_->MoveFocus(field);
+    field.SetText(text);
+}
+
+void BenchShop::EnterSale(int lines) {
+    if (!invoice_) {
+        OpenScreen(Access(), "T01", "Sales");
+        invoice_ = desktop_->FindScreen("Invoice");
+    }
+    invoice_->Click(On("bttnNew"));
+    char number[32];
+    std::snprintf(number, sizeof number, "A%09ld00", ++sales_);
+    Type("TxtNoInvoice", number);
+    Type("TxtKodeCus", "C000000001");
+    Type("TxtPPN", "10");
+    auto& grid = dynamic_cast<forms::Grid&>(On("OrderGrid"));
+    for (int line = 0; line < lines; ++line) {
+        invoice_->MoveFocus(grid);
+        grid.SelectRow(grid.Rows() - 1);
+        invoice_->DoubleClick(grid);
+        char code[16];
+        std::snprintf(code, sizeof code, "%010d", line + 1);
+        Type("txtKodeBrg", code);
+        Type("txtQty", "2");
+        invoice_->Click(On("bttnAddLine"));
+    }
+    if (grid.Rows() != lines + 2) throw std::runtime_error("the sale was not entered");
+}
+
+void BenchShop::Save() { invoice_->Click(On("bttnSave")); }
+
+std::string BenchShop::NextNumber() { return data::NextNumber(Access(), Document::Invoice); }
+
+} // namespace varnik::bench

@@ -1,0 +1,110 @@
+// What the design promises, measured: posting a sale beside the bare loop of the same row writes, opening
+// the sales screen, the next number; each in a small shop and in a large one, in the same run. Prints
+// medians of several interleaved runs, then one table of ratios.
+//
+//     varnik-bench [--large=N] [--benchmark_...]     N sales in the large shop, 1,000,000 without it
+
+#include "bench/BenchShop.h"
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <cstdio>
+#include <map>
+
+namespace varnik::bench {
+namespace {
+
+template <typename Work>
+double Seconds(Work&& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+// The console's usual table, and the medians kept by name.
+class KeepingMedians : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs)
+            if (run.aggregate_name == "median") medians[run.run_name.function_name] = run.GetAdjustedRealTime();
+    }
+    std::map<std::string, double> medians; // milliseconds
+};
+
+void Register(const std::string& name, BenchShop& shop, int iterations,
+              const std::function<double(BenchShop&)>& timed) {
+    benchmark::RegisterBenchmark(name.c_str(),
+                                 [&shop, timed](benchmark::State& state) {
+                                     for (auto _ : state) state.SetIterationTime(timed(shop));
+                                 })
+        ->UseManualTime()
+        ->Iterations(iterations)
+        ->Repetitions(7)
+        ->ReportAggregatesOnly()
+        ->Unit(benchmark::kMillisecond);
+}
+
+void RegisterShop(const std::string& size, BenchShop& shop) {
+    for (const int lines : {1, 10}) {
+        const std::string label = std::to_string(lines) + (lines == 1 ? " line, " : " lines, ") + size;
+        Register("post " + label, shop, 20, [lines](BenchShop& on) {
+            on.EnterSale(lines);
+            return Seconds([&] { on.Save(); });
+        });
+        Register("bare " + label, shop, 20,
+                 [lines](BenchShop& on) { return Seconds([&] { on.Bare().PostSale(lines); }); });
+    }
+    Register("open Invoice, " + size, shop, 20,
+             [](BenchShop& on) { return Seconds([&] { on.OpenAndClose("T01"); }); });
+    Register("next number, " + size, shop, 50,
+             [](BenchShop& on) { return Seconds([&] { benchmark::DoNotOptimize(on.NextNumber()); }); });
+}
+
+void Ratio(const std::map<std::string, double>& medians, const std::string& over, const std::string& under,
+           const std::string& goal) {
+    const auto a = medians.find(over), b = medians.find(under);
+    if (a == medians.end() || b == medians.end()) return; // left out by a filter
+    std::printf("%-28s %9.3f ms   against %-28s %9.3f ms   ratio %5.2f   goal %s\n", over.c_str(), a->second,
+                under.c_str(), b->second, a->second / b->second, goal.c_str());
+}
+
+} // namespace
+} // namespace varnik::bench
+
+int main(int argc, char** argv) {
+    using namespace varnik::bench;
+    long large = 1000000;
+    std::vector<char*> passed;
+    std::string interleaved = "--benchmark_enable_random_interleaving=true";
+    for (int i = 0; i < argc; ++i) {
+        const std::string argument = argv[i];
+        if (argument.starts_with("--large="))
+            large = std::stol(argument.substr(8));
+        else
+            passed.push_back(argv[i]);
+    }
+    passed.insert(passed.begin() + 1, interleaved.data());
+    int count = static_cast<int>(passed.size());
+    benchmark::Initialize(&count, passed.data());
+
+    BenchShop smallShop(1000);
+    std::printf("filling a shop of %ld sales ...\n", large);
+    std::fflush(stdout);
+    BenchShop largeShop(large);
+    RegisterShop("small", smallShop);
+    RegisterShop("large", largeShop);
+    KeepingMedians reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+
+    std::printf("\n");
+    for (const std::string size : {"small", "large"}) {
+        Ratio(reporter.medians, "post 1 line, " + size, "bare 1 line, " + size, "-");
+        Ratio(reporter.medians, "post 10 lines, " + size, "bare 10 lines, " + size, "at most 2");
+    }
+    Ratio(reporter.medians, "post 10 lines, large", "post 10 lines, small", "at most 1.3");
+    Ratio(reporter.medians, "open Invoice, large", "open Invoice, small", "flat, under 20 ms");
+    Ratio(reporter.medians, "next number, large", "next number, small", "flat, under 20 ms");
+    return 0;
+}
