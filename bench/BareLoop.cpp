@@ -23,25 +23,29 @@ BareLoop::BareLoop(const std::filesystem::path& database) {
     if (sqlite3_open(database.c_str(), &engine_) != SQLITE_OK)
         throw std::runtime_error(sqlite3_errmsg(engine_));
     sqlite3_exec(engine_, "PRAGMA journal_mode=WAL; PRAGMA synchronous=OFF", nullptr, nullptr, nullptr);
-    header_ = Prepare("INSERT INTO Invoice (NoInvoice,CusPO,TglInvoice,TglJtp,KodeCus,Ket,Bruto,Netto,PPN,Disc,"
-                      "Total,Bayar,Saldo,NoUser,nPPN,Terbilang) VALUES (?1,'','2026-11-22','2026-11-22',"
-                      "'C000000001','Sales Inv No. ',110000,100000,10000,0,110000,0,110000,'99',10,"
-                      "'One Hundred Ten Thousand')");
+    header_ =
+        Prepare("INSERT INTO Invoice (NoInvoice,CusPO,TglInvoice,TglJtp,KodeCus,Ket,Bruto,Netto,PPN,Disc,"
+                "Total,Bayar,Saldo,NoUser,nPPN,Terbilang) VALUES (?1,'','2026-11-22','2026-11-22',"
+                "'C000000001','Sales Inv No. ',110000,100000,10000,0,110000,0,110000,'99',10,"
+                "'One Hundred Ten Thousand')");
     customer_ = Prepare("UPDATE Customer SET SaldoAkhir = SaldoAkhir + 110000 WHERE KodeCus = 'C000000001'");
-    detail_ = Prepare("INSERT INTO InvoiceDetail (NoInvoice,TglInvoice,KodeCus,KodeBrg,Diskripsi,Qty,Satuan,"
-                      "Qty2,Harga,Disc,Netto,PPN,Total,nDIS,nPPN,Bruto,Jasa,QtyOrder,QtyRetur,HPP,HPPRATA) VALUES "
-                      "(?1,'2026-11-22','C000000001',?2,'Product',2,'PCS',1,5500,0,11000,1000,11000,0,10,11000,0,"
-                      "0,0,9000,9000)");
+    detail_ =
+        Prepare("INSERT INTO InvoiceDetail (NoInvoice,TglInvoice,KodeCus,KodeBrg,Diskripsi,Qty,Satuan,"
+                "Qty2,Harga,Disc,Netto,PPN,Total,nDIS,nPPN,Bruto,Jasa,QtyOrder,QtyRetur,HPP,HPPRATA) VALUES "
+                "(?1,'2026-11-22','C000000001',?2,'Product',2,'PCS',1,5500,0,11000,1000,11000,0,10,11000,0,"
+                "0,0,9000,9000)");
     product_ = Prepare("UPDATE Produk SET QGudang = QGudang - 2, OnHand = OnHand - 2, HargaJual = 5500 "
                        "WHERE rowid = ?1");
     lot_ = Prepare("UPDATE FakturDetail SET QtySisa = QtySisa - 2 WHERE rowid = ?1");
     openRow_ = Prepare("UPDATE Persediaan SET QtySisa = QtySisa - 2 WHERE rowid = ?1");
-    ledger_ = Prepare("INSERT INTO Persediaan (NoJurnal,NoRef,Tanggal,KodeBrg,Memo,NamaBrg,Harga1,Harga2,JenisBrg,"
-                      "Satuan,Pecahan,Qty1,Qty2,Saldo,QtySisa) VALUES ('31',?1,'2026-11-22',?2,"
-                      "'Sales Inv No. 000000000100 Cus. Customer','Product',0,4500,'001','PCS',1,0,2,1000,0)");
+    ledger_ =
+        Prepare("INSERT INTO Persediaan (NoJurnal,NoRef,Tanggal,KodeBrg,Memo,NamaBrg,Harga1,Harga2,JenisBrg,"
+                "Satuan,Pecahan,Qty1,Qty2,Saldo,QtySisa) VALUES ('31',?1,'2026-11-22',?2,"
+                "'Sales Inv No. 000000000100 Cus. Customer','Product',0,4500,'001','PCS',1,0,2,1000,0)");
     sold_ = Prepare("INSERT INTO PersediaanJual (NoInvoice,NoPO,Tanggal,KodeBrg,Qty,Harga) VALUES (?1,"
                     "'000000000100','2026-11-22',?2,2,4500)");
-    lots_ = RowNumbers(engine_, "SELECT rowid FROM FakturDetail WHERE QtySisa > 1000 ORDER BY rowid LIMIT 10");
+    lots_ =
+        RowNumbers(engine_, "SELECT rowid FROM FakturDetail WHERE QtySisa > 1000 ORDER BY rowid LIMIT 10");
     openRows_ = RowNumbers(engine_, "SELECT rowid FROM Persediaan WHERE NoJurnal = '11' AND QtySisa > 1000 "
                                     "ORDER BY rowid LIMIT 10");
     if (lots_.size() < 10 || openRows_.size() < 10) throw std::runtime_error("the database has no open lots");
@@ -54,7 +58,8 @@ BareLoop::~BareLoop() {
 
 sqlite3_stmt* BareLoop::Prepare(const std::string& sql) {
     sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v3(engine_, sql.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) != SQLITE_OK)
+    if (sqlite3_prepare_v3(engine_, sql.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) !=
+        SQLITE_OK)
         throw std::runtime_error(sqlite3_errmsg(engine_));
     statements_.push_back(statement);
     return statement;

@@ -10,6 +10,11 @@
 
 namespace varnik::bench {
 
+namespace {
+// The sales of the bench stand in a series of their own, whose letter keeps the proposed number free.
+constexpr const char* OwnUser = "98";
+} // namespace
+
 BenchShop::BenchShop(long sales) {
     std::string name = (std::filesystem::temp_directory_path() / "varnik-bench-XXXXXX").string();
     if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
@@ -23,6 +28,7 @@ BenchShop::BenchShop(long sales) {
     dynamic_cast<forms::TextControl&>(*login.FindControl("txtPassword")).SetText("kemiri");
     login.Click(*login.FindControl("cmdOK"));
     if (!Access().session.LoggedIn) throw std::runtime_error("the login failed");
+    Access().session.NoUser = OwnUser;
     FillShop(Database(), sales);
     bare_ = std::make_unique<BareLoop>(Database());
 }
@@ -36,7 +42,7 @@ BenchShop::~BenchShop() {
 }
 
 void BenchShop::OpenAndClose(const std::string& key) {
-    OpenScreen(Access(), key, key);
+    desktop_->Show(Access().screens.at(key).make(Access())); // a second one beside the screen that enters
     desktop_->screens.back()->Close();
 }
 
@@ -59,10 +65,12 @@ void BenchShop::EnterSale(int lines) {
     }
     invoice_->Click(On("bttnNew"));
     char number[32];
-    std::snprintf(number, sizeof number, "A%09ld00", ++sales_);
+    std::snprintf(number, sizeof number, "A%09ld98", ++sales_);
     Type("TxtNoInvoice", number);
-    Type("TxtKodeCus", "C000000001");
+    invoice_->MoveNext(); // the number's leaving goes to the date
     Type("TxtPPN", "10");
+    invoice_->MoveNext(); // the tax's leaving goes to the customer
+    Type("TxtKodeCus", "C000000001");
     auto& grid = dynamic_cast<forms::Grid&>(On("OrderGrid"));
     for (int line = 0; line < lines; ++line) {
         invoice_->MoveFocus(grid);
@@ -74,11 +82,18 @@ void BenchShop::EnterSale(int lines) {
         Type("txtQty", "2");
         invoice_->Click(On("bttnAddLine"));
     }
-    if (grid.Rows() != lines + 2) throw std::runtime_error("the sale was not entered");
+    if (grid.Rows() != lines + 2)
+        throw std::runtime_error("the sale was not entered" +
+                                 (desktop_->boxes.empty() ? "" : ": " + desktop_->boxes.back().text));
 }
 
 void BenchShop::Save() { invoice_->Click(On("bttnSave")); }
 
-std::string BenchShop::NextNumber() { return data::NextNumber(Access(), Document::Invoice); }
+std::string BenchShop::NextNumber() {
+    Access().session.NoUser = "00"; // the user of the filled documents
+    const std::string number = data::NextNumber(Access(), Document::Invoice);
+    Access().session.NoUser = OwnUser;
+    return number;
+}
 
 } // namespace varnik::bench

@@ -72,12 +72,17 @@ scenario "The sales of the day"
 local function sale(customer, name, tax, lines)
     click "bttnNew"
     local number = text "TxtNoInvoice"
+    type("TxtNoInvoice", "{Enter}{Enter}{Enter}{Enter}") -- number, date, order and due date as proposed
     enter("TxtPPN", tax)
     enter("TxtKodeCus", customer)
-    if text "TxtNamaCus" == "" then enter("TxtNamaCus", name) end
+    if text "TxtNamaCus" == "" then
+        -- A code that nobody knows yet becomes a customer when the sale is saved.
+        type("TxtKodeCus", "{Enter}")
+        enter("TxtNamaCus", name)
+    end
     for _, line in ipairs(lines) do
         doubleclick("OrderGrid", rows "OrderGrid")
-        enter("txtKodeBrg", line[1])
+        type("txtKodeBrg", line[1])
         enter("txtQty", line[2])
         if line[3] then enter("TxtDis", line[3]) end
         click "bttnAddLine"
