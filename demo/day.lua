@@ -24,6 +24,7 @@ local products = {
 open "F01"
 for _, product in ipairs(products) do
     click "bttnAdd"
+    type("txtKode", "{Enter}") -- the code as proposed
     enter("txtNama", product.name)
     enter("TxtJenis", product.type)
     if product.service then
