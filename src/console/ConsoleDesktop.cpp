@@ -8,6 +8,7 @@
 #include <array>
 #include <chrono>
 #include <ctime>
+#include <system_error>
 
 namespace varnik::console {
 
@@ -213,7 +214,11 @@ void ConsoleDesktop::LaunchReport(const ReportRequest& request) {
     if (launch) launch(request);
 }
 
+// As a shell does: web pages and mail go out, a file only when it is there, beside the program or anywhere.
 bool ConsoleDesktop::OpenWithShell(const std::string& target) {
+    const bool link = target.find("://") != std::string::npos || target.starts_with("mailto:");
+    std::error_code ignored;
+    if (!link && !std::filesystem::exists(folder_ / target, ignored)) return false;
     shell.push_back(target);
     return true;
 }
