@@ -60,6 +60,7 @@ menu "mnuViewStatusBar"
 expect(visible "sbStatusBar", false)
 menu "mnuViewStatusBar"
 expect(visible "sbStatusBar", true)
+io.open("help.exe", "w"):close()                 -- beside the program, where the shell finds it
 menu "mnuHelpContents"
 menu "mnuHelpvisit"
 menu "mnuHelpAbout"
