@@ -41,11 +41,7 @@ bool WriteDataSource(registry::Registry& registry, const std::filesystem::path& 
                      const std::string& name, const std::string& path, const std::string& driverPath) {
     const std::string file = path.empty() ? PathText(DatabaseFile(programFolder)) : path;
     const std::string key = KeyOf(name), engine = key + "\\Engines\\Jet";
-    struct Entry {
-        std::string_view key, value;
-        registry::Data data;
-    };
-    const Entry entries[] = {
+    return registry.Set({
         {key, "UID", ""},
         {key, "DBQ", file},
         {key, "Driver", driverPath},
@@ -57,11 +53,8 @@ bool WriteDataSource(registry::Registry& registry, const std::filesystem::path& 
         {engine, "MaxBufferSize", 2048u},
         {engine, "PageTimeout", 5u},
         {engine, "Threads", 3u},
-        {SourcesKey, name, std::string(DriverName)},
-    };
-    bool written = true;
-    for (const Entry& entry : entries) written = registry.Set(entry.key, entry.value, entry.data) && written;
-    return written;
+        {std::string(SourcesKey), name, std::string(DriverName)},
+    });
 }
 
 bool CreateDataSource(Services& services, const std::string& path) {

@@ -106,8 +106,18 @@ std::optional<std::string> Registry::QueryText(std::string_view key, std::string
 }
 
 bool Registry::Set(std::string_view key, std::string_view value, Data data) {
-    keys_[std::string(key)].insert_or_assign(std::string(value), std::move(data));
-    return Write();
+    return Set({{std::string(key), std::string(value), std::move(data)}});
+}
+
+bool Registry::Set(const std::vector<Entry>& entries) {
+    bool fresh = false;
+    for (const Entry& entry : entries) {
+        if (Query(entry.key, entry.value) == entry.data) continue;
+        keys_[entry.key].insert_or_assign(entry.value, entry.data);
+        fresh = true;
+    }
+    std::error_code ignored;
+    return (!fresh && !unwritten_ && std::filesystem::exists(file_, ignored)) || Write();
 }
 
 bool Registry::DeleteKey(std::string_view key) {
@@ -124,7 +134,12 @@ bool Registry::DeleteValue(std::string_view key, std::string_view value) {
     return Write();
 }
 
-bool Registry::Write() const {
+bool Registry::Write() {
+    unwritten_ = !WriteFile();
+    return !unwritten_;
+}
+
+bool Registry::WriteFile() const {
     // A name of its own, so that two stations that start together on one folder do not mix their files.
     std::filesystem::path fresh = file_;
     fresh += "." + std::to_string(std::random_device()()) + ".new";

@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace varnik::registry {
 
@@ -21,6 +22,11 @@ using Data = std::variant<std::string, std::uint32_t>;
 struct NoCaseLess {
     using is_transparent = void;
     bool operator()(std::string_view a, std::string_view b) const;
+};
+
+struct Entry {
+    std::string key, value;
+    Data data;
 };
 
 class Registry {
@@ -33,8 +39,10 @@ public:
     std::optional<Data> Query(std::string_view key, std::string_view value) const;
     std::optional<std::string> QueryText(std::string_view key, std::string_view value) const;
     // Creates the key when it is missing and writes the file at once, whole or not at all; false when
-    // the file cannot be written.
+    // the file cannot be written. What stands there already is not written again.
     bool Set(std::string_view key, std::string_view value, Data data);
+    // Several values in one writing.
+    bool Set(const std::vector<Entry>& entries);
     // With all keys below it; false when there is none or the file cannot be written.
     bool DeleteKey(std::string_view key);
     bool DeleteValue(std::string_view key, std::string_view value);
@@ -42,9 +50,11 @@ public:
 private:
     using Values = std::map<std::string, Data, NoCaseLess>;
 
-    bool Write() const;
+    bool Write();
+    bool WriteFile() const;
 
     std::filesystem::path file_;
+    bool unwritten_ = false; // what stands here could not be written
     std::map<std::string, Values, NoCaseLess> keys_;
 };
 

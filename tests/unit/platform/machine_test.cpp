@@ -90,6 +90,16 @@ TEST_F(RegistryFile, DamageAndRefusal) {
 
     registry::Registry nowhere(folder_ / "missing" / "registry.ini");
     EXPECT_FALSE(nowhere.Set("A", "b", "c"));
+    EXPECT_FALSE(nowhere.Set("A", "b", "c")); // still not written
+
+    // What stands already is not written again, unless the file is gone.
+    EXPECT_TRUE(registry.Set("Good", "a", "2"));
+    const auto written = std::filesystem::last_write_time(file_);
+    EXPECT_TRUE(registry.Set("good", "A", "2"));
+    EXPECT_EQ(std::filesystem::last_write_time(file_), written);
+    std::filesystem::remove(file_);
+    EXPECT_TRUE(registry.Set("good", "A", "2"));
+    EXPECT_EQ(registry::Registry(file_).QueryText("Good", "a"), "2");
 }
 
 } // namespace
