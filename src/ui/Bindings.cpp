@@ -75,16 +75,24 @@ public:
     LabelBinding(Binder& binder, forms::Label& control, CaptionWidget* label)
         : Binding(binder, control, label), label_(label), caption_(control) {
         label->control = &control;
+        label->setTextFormat(control.onClick ? Qt::RichText : Qt::PlainText);
     }
     void Refresh() override {
         // A caption with a click of its own is a menu or a link.
         if (caption_.onClick) label_->setCursor(Qt::PointingHandCursor);
         SetLook(label_, "menu", static_cast<bool>(caption_.onClick));
         SetLook(label_, "pressed", caption_.Border());
-        // The "&" of a caption before a field is drawn as the mark of its letter.
-        QString text = ToQt(control_.Caption());
-        if (!label_->buddy()) text.remove(QLatin1Char('&'));
-        label_->setText(text);
+        // Before a field the toolkit draws the "&" as the mark of its letter; on a menu we do.
+        const QString text = ToQt(control_.Caption());
+        const qsizetype mark = text.indexOf(QLatin1Char('&'));
+        if (label_->buddy())
+            label_->setText(text);
+        else if (caption_.onClick && mark >= 0 && mark + 1 < text.size())
+            label_->setText(QStringLiteral("%1<u>%2</u>%3")
+                                .arg(text.left(mark).toHtmlEscaped(), text.mid(mark + 1, 1).toHtmlEscaped(),
+                                     text.mid(mark + 2).toHtmlEscaped()));
+        else
+            label_->setText(QString(text).remove(QLatin1Char('&')));
     }
 
 private:

@@ -310,6 +310,7 @@ void PageBuilder::Build(const Page& page) {
             MakeFrame({Node::Kind::Inside, overlay.control, {overlay.content}, {}});
         } else {
             Dress(*binding, overlay.content);
+            LabelOf(overlay.content, *binding);
         }
     }
     PlaceLeftovers(*outer);
@@ -343,7 +344,7 @@ void PageBuilder::PlaceLeftovers(QBoxLayout& below) {
         case Kind::ListGrid:
         case Kind::Tree:
         case Kind::StatusBar:
-            tables.push_back(Table(control->Name(), 6));
+            tables.push_back(Table(control->Name(), 6).Label(binder_.Screen().Caption()));
             break;
         default:
             fields.push_back({Field(control->Name(), control->GetKind() == Kind::TextBox ? 30 : 0)});

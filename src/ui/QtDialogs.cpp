@@ -57,18 +57,23 @@ Answer WithoutAnswer(Buttons buttons) {
     }
 }
 
-QMessageBox::Icon IconOf(Icon icon) {
+QPixmap PictureOf(Icon icon, qreal ratio) {
+    const Colours& colours = CurrentColours();
+    const auto draw = [ratio](const char* name, const QColor& colour) {
+        constexpr int size = 40;
+        return DrawnIcon(QString::fromLatin1(name), colour).pixmap(QSize(size, size), ratio);
+    };
     switch (icon) {
     case Icon::Information:
-        return QMessageBox::Information;
+        return draw("info", colours.accent);
     case Icon::Exclamation:
-        return QMessageBox::Warning;
+        return draw("warning", colours.warning);
     case Icon::Question:
-        return QMessageBox::Question;
+        return draw("help", colours.accent);
     case Icon::Critical:
-        return QMessageBox::Critical;
+        return draw("stop", colours.danger);
     default:
-        return QMessageBox::NoIcon;
+        return {};
     }
 }
 
@@ -98,7 +103,8 @@ Answer QtDesktop::MessageBox(const Box& box) {
     const ArrowCursor arrow;
     QString text = ToQt(box.text);
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    QMessageBox window(IconOf(box.icon), ToQt(box.title), text, ButtonsOf(box.buttons), Front());
+    QMessageBox window(QMessageBox::NoIcon, ToQt(box.title), text, ButtonsOf(box.buttons), Front());
+    window.setIconPixmap(PictureOf(box.icon, window.devicePixelRatioF()));
     window.setTextFormat(Qt::PlainText); // a text of the shop is no markup
     window.setTextInteractionFlags(Qt::TextSelectableByMouse);
     if (box.buttons == Buttons::AbortRetryIgnore) window.setDefaultButton(QMessageBox::Retry);

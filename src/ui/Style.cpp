@@ -15,10 +15,10 @@ namespace {
 
 const Colours Light{QColor(0xF3F5F8), QColor(0xFFFFFF), QColor(0xC9D1DB), QColor(0x17212E),
                     QColor(0x4E5B6B), QColor(0x1F5FBF), QColor(0xFFFFFF), QColor(0xECEFF3),
-                    QColor(0xF6F8FB), QColor(0xD6E5FA), QColor(0xB3261E)};
+                    QColor(0xF6F8FB), QColor(0xD6E5FA), QColor(0xB3261E), QColor(0xA35B00)};
 const Colours Dark{QColor(0x1B2027), QColor(0x242A33), QColor(0x46505E), QColor(0xE8ECF1),
                    QColor(0xAEB8C4), QColor(0x6FA8F5), QColor(0x10161E), QColor(0x2C333D),
-                   QColor(0x29303A), QColor(0x2F4A6E), QColor(0xF28B82)};
+                   QColor(0x29303A), QColor(0x2F4A6E), QColor(0xF28B82), QColor(0xF0B357)};
 
 Colours current = Light;
 
@@ -89,6 +89,8 @@ QTreeView::branch:has-children:open { image: url(:/icons/branch-open.svg); }
 
 QFrame[statusbar="true"] { background: @card; border: none; border-top: 1px solid @border; }
 QFrame[statusbar="true"] QLabel { color: @quietText; padding: 4px 10px; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QDialogButtonBox QPushButton { min-width: 66px; }
 QMenu { background: @card; color: @text; border: 1px solid @border; padding: 5px; }
 QMenu::item { padding: 6px 26px 6px 10px; border-radius: 4px; }
 QMenu::item:selected { background: @selection; color: @text; }

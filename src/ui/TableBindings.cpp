@@ -45,7 +45,8 @@ public:
         verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
         const auto& columns = renewed->Columns();
         const int unit = fontMetrics().averageCharWidth();
-        int widest = 0, sum = 0;
+        int sum = 0;
+        int widest = columns.size() > 1 ? 1 : 0; // of equals the second: the name behind a code
         std::vector<int> widths;
         for (std::size_t i = 0; i < columns.size(); ++i) {
             const int heading =

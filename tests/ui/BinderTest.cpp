@@ -119,9 +119,9 @@ TEST_F(Binder, AListOfAHundredThousandOpensAndPicks) {
 }
 
 TEST_F(Binder, AFailureShowsItsDescriptionAndTheScreenGoesOn) {
-    BoxAnswerer box(QMessageBox::Ok);
+    boxes.Answer(QMessageBox::Ok);
     QTest::mouseClick(Find<QPushButton>(sample, "fail"), Qt::LeftButton);
-    EXPECT_EQ(box.text, "Table Produk is not there");
+    EXPECT_EQ(boxes.texts, std::vector<std::string>{"Table Produk is not there"});
     QTest::mouseClick(Find<QPushButton>(sample, "save"), Qt::LeftButton);
     EXPECT_EQ(sample.log.back(), "saved ");
 }

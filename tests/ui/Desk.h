@@ -9,8 +9,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <deque>
 #include <gtest/gtest.h>
 
 namespace varnik::test {
@@ -21,23 +23,33 @@ bool Until(Condition condition) {
     return QTest::qWaitFor(condition, 5000);
 }
 
-// Presses a button of the next box as soon as it is there, and keeps its text.
-class BoxAnswerer {
+// Answers the boxes in order, and keeps their texts. A box that nobody expects fails the test, it never
+// hangs.
+class Boxes {
 public:
-    explicit BoxAnswerer(QMessageBox::StandardButton press) {
-        QObject::connect(&clock_, &QTimer::timeout, &clock_, [this, press] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box || !box->isVisible()) return;
-            text = box->text().toStdString();
-            clock_.stop();
-            box->button(press)->click();
-        });
-        clock_.start(0);
+    Boxes() {
+        QObject::connect(&clock_, &QTimer::timeout, &clock_, [this] { Look(); });
+        clock_.start(2);
     }
-    std::string text;
+    void Answer(QMessageBox::StandardButton press) { answers_.push_back(press); }
+    std::vector<std::string> texts;
 
 private:
+    void Look() {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible()) return;
+        texts.push_back(box->text().toStdString());
+        if (answers_.empty()) {
+            ADD_FAILURE() << "nobody expects the box: " << texts.back();
+            box->buttons().constFirst()->click();
+            return;
+        }
+        const QMessageBox::StandardButton press = answers_.front();
+        answers_.pop_front();
+        box->button(press)->click();
+    }
     QTimer clock_;
+    std::deque<QMessageBox::StandardButton> answers_;
 };
 
 class UiTest : public ::testing::Test {
@@ -52,10 +64,13 @@ protected:
     ui::ScreenWindow& Window(const forms::Screen& screen) { return *desktop.WindowOf(screen); }
     template <typename WidgetType>
     WidgetType* Find(const forms::Screen& screen, const char* name) {
-        return Window(screen).findChild<WidgetType*>(QString::fromLatin1(name));
+        auto* widget = Window(screen).findChild<WidgetType*>(QString::fromLatin1(name));
+        EXPECT_TRUE(widget) << name;
+        return widget;
     }
 
     Regional regional;
+    Boxes boxes;
     ui::QtDesktop desktop{std::filesystem::temp_directory_path(), regional};
 };
 

@@ -49,7 +49,7 @@ Overlay SearchPanelOver() {
         {Row({Field("txtKreteria", 22).Label("Search by").Above(),
               Field("txtValue", 30).Label("Value").Above(),
               Column({Heading(" "), Row({Button("cmdExecute").Primary(), Button("cmdTutup")})}), Spring()}),
-         Table("grdCari", 10)});
+         Table("grdCari", 10).Label("Found")});
     return {"frmCari", std::move(content)};
 }
 
@@ -63,7 +63,7 @@ Page MasterPage(std::string screen, Node fields, bool searchPanel) {
                 Column({std::move(tools), std::move(fields)}),
                 {SearchPanelOver()}};
     return {std::move(screen), Family::Master,
-            Column({std::move(tools), std::move(fields), Table("grdCari", 10)})};
+            Column({std::move(tools), std::move(fields), Table("grdCari", 10).Label("Found")})};
 }
 
 Page DocumentPage(std::string screen, DocumentParts parts) {
@@ -79,10 +79,11 @@ Page DocumentPage(std::string screen, DocumentParts parts) {
         Row({Inside(std::move(parts.entryFrame), std::move(parts.entry)).Share(1), std::move(parts.totals)});
     Page page{std::move(screen),
               Family::Document,
-              Column({std::move(tools), std::move(parts.header), Table(std::move(parts.lines), 8),
-                      std::move(foot)}),
+              Column({std::move(tools), std::move(parts.header),
+                      Table(std::move(parts.lines), 8).Label("Lines"), std::move(foot)}),
               {SearchPanelOver()}};
-    page.overlays.push_back({parts.lookup, Field(parts.lookup), Overlay::Where::UnderField, 460, 300});
+    page.overlays.push_back(
+        {parts.lookup, Field(parts.lookup).Label("Look-up list"), Overlay::Where::UnderField, 460, 300});
     return page;
 }
 

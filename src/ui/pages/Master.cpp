@@ -13,9 +13,11 @@ std::vector<Page> MasterPages() {
              Form({{Field("TxtSatuan", 10), Field("txtPecahan", 7)},
                    {Field("TxtSatuanBeli", 10), Field("TxtPecahanBeli", 7), Field("txtHargaBeli", 12)},
                    {Field("TxtSatuanJual", 10), Field("TxtPecahanJual", 7), Field("TxtHargaJual", 12)}})),
-        Row({Card("Stock", Form({{Field("txtQCounter", 10), Field("TxtQAwal", 10)},
-                                 {Field("TxtQGudang", 10), Field("txtOnOrder", 10).Label("On Order")},
-                                 {Field("TxtOnHand", 10), Field("TxtHPPRata", 10)}})),
+        // In columns, as the entry goes.
+        Row({Card("Cost and stock",
+                  Form({{Field("TxtHPPRata", 10), Field("TxtOnHand", 10)},
+                        {Field("txtQCounter", 10), Field("TxtQAwal", 10)},
+                        {Field("TxtQGudang", 10), Field("txtOnOrder", 10).Label("On Order")}})),
              Card("Supplier", Form({{Field("TxtKodeSup")}, {Field("txtKodeRef")}, {Field("txtket")}}))
                  .Share(1)}),
     });

@@ -30,7 +30,7 @@ struct Node {
     std::vector<Node> children;
     std::vector<std::vector<Node>> rows; // of a form
 
-    std::string label{};   // for a field that has no caption of its own
+    std::string label{};   // for a control that has no caption of its own; of a table it is heard, not seen
     std::string labelBy{}; // a label control of the screen that stands before the field
     int width = 0;         // characters of a field, visible rows of a table, pixels of a picture; 0: as usual
     int height = 0;        // pixels of a picture, lines of a text; 0: as usual

@@ -28,15 +28,17 @@ Node Totals(std::string last) {
 } // namespace
 
 std::vector<Page> SalesPages() {
-    Node header = Row({Card("", Form({{Field("TxtNoInvoice", 15)},
-                                      {Field("TxtTglInvoice", 15)},
-                                      {Field("TxtJTP", 15)},
-                                      {Field("txtCusPO", 15), Field("TxtPPN", 6)}})),
-                       Card("", Form({{Field("TxtKodeCus", 15)},
-                                      {Field("TxtNamaCus")},
-                                      {Field("TxtAlamat1")},
-                                      {Row({Field("TxtAlamat2").Share(1), Field("TxtAlamat3").Share(1)})}}))
-                           .Share(1)});
+    Node header =
+        Row({Card("", Form({{Field("TxtNoInvoice", 15)},
+                            {Field("TxtTglInvoice", 15)},
+                            {Field("TxtJTP", 15)},
+                            {Field("txtCusPO", 15), Field("TxtPPN", 6)}})),
+             Card("", Form({{Field("TxtKodeCus", 15)},
+                            {Field("TxtNamaCus")},
+                            {Field("TxtAlamat1")},
+                            {Row({Field("TxtAlamat2").Share(1).Label("Address, second line").Bare(),
+                                  Field("TxtAlamat3").Share(1).Label("Address, third line").Bare()})}}))
+                 .Share(1)});
     Page invoice =
         DocumentPage("Invoice", {std::move(header), EntryLine(), Totals("TxtSaldo"), {"bttnBayar"}});
     return {invoice};

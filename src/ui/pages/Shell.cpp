@@ -12,16 +12,17 @@ Node Illustrated(Node picture, Node content) {
 }
 
 Page Main() {
-    Node bar = Bar(Row({Picture("imgTitleMaxRestore", 24, 24), Field("lblFile"), Field("lblTool"),
-                        Field("lblHelp"), Spring()}));
+    Node bar = Bar(Row({Picture("imgTitleMaxRestore", 24, 24).Label("Varnik"), Field("lblFile"),
+                        Field("lblTool"), Field("lblHelp"), Spring()}));
     Node welcome = Card(
         "",
-        Column({Spring(), Picture("Logo", 200, 200).Centred(),
+        Column({Spring(), Picture("Logo", 200, 200).Label("Varnik").Centred(),
                 Heading("Varnik Ledger Suite").Title().Centred(),
                 Heading("Choose a screen in the menu: arrow keys and Enter, or a click").Quiet().Centred(),
                 Spring()}));
-    Node body = Row({Table("TV", 24), std::move(welcome).Share(2)}).Share(1).Padded();
-    return {"frmMainCode", Family::Main, Column({std::move(bar), std::move(body), Field("sbStatusBar")})};
+    Node body = Row({Table("TV", 22).Label("Menu"), std::move(welcome).Share(2)}).Share(1).Padded();
+    return {"frmMainCode", Family::Main,
+            Column({std::move(bar), std::move(body), Field("sbStatusBar").Label("Status")})};
 }
 
 } // namespace
@@ -29,18 +30,18 @@ Page Main() {
 std::vector<Page> ShellPages() {
     Page login = DialogPage(
         "fLogin",
-        Illustrated(Picture("ImgLogin", 112, 112),
+        Illustrated(Picture("ImgLogin", 112, 112).Label("Log in"),
                     Form({{Field("txtUserId", 24).By("Label1")}, {Field("txtPassword", 24).By("Label2")}})),
         {"cmdOK", "cmdBatal"});
     Page splash{"frmSplash", Family::Splash,
-                Illustrated(Picture("imgLogo", 150, 150),
+                Illustrated(Picture("imgLogo", 150, 150).Label("Varnik"),
                             Column({Spring(), Field("lblProductName").Title(), Field("Label1"),
                                     Field("Lblversi1").Quiet(), Field("LblVersi2").Quiet(), Spring()}))};
-    Page about = DialogPage(
-        "frmAbout",
-        Illustrated(Picture("Image1", 112, 112), Column({Field("Label1").Title(), Field("Lblversi1").Quiet(),
-                                                         Field("LblVersi2"), Field("lb_email"), Spring()})),
-        {"cmdOK", "cmdSysInfo"});
+    Page about = DialogPage("frmAbout",
+                            Illustrated(Picture("Image1", 112, 112).Label("Varnik"),
+                                        Column({Field("Label1").Title(), Field("Lblversi1").Quiet(),
+                                                Field("LblVersi2"), Field("lb_email"), Spring()})),
+                            {"cmdOK", "cmdSysInfo"});
     Page dialog = DialogPage("Dialog", Spring(), {"OKButton", "CancelButton"});
     return {Main(), login, splash, about, dialog};
 }
