@@ -79,8 +79,14 @@ public:
     virtual std::int64_t Steps() const = 0;
 };
 
-// All throw EngineError. The file must exist and be a database; it is not changed by opening.
-std::unique_ptr<Engine> OpenEngine(const std::filesystem::path& file);
+// Where commits go first. The shared log needs memory that the processes of one machine share, so files on a
+// network get a journal of their own, with a sync for every commit.
+enum class Journal { SharedLog, Rollback };
+Journal JournalFor(const std::filesystem::path& file);
+
+// All throw EngineError. The file must exist and be a database. Opening changes nothing in it but, in a file
+// of our own, the journal.
+std::unique_ptr<Engine> OpenEngine(const std::filesystem::path& file, Journal journal);
 void CreateEngineFile(const std::filesystem::path& file);
 // Copies the whole content over the target, which is created or replaced inside.
 void CopyEngineFile(const std::filesystem::path& from, const std::filesystem::path& to, bool toLive);

@@ -121,9 +121,12 @@ private:
     bool At(std::size_t index) {
         if (index >= aheadFrom_ && index < aheadFrom_ + ahead.size() && Fresh()) {
             Row& read = ahead[index - aheadFrom_];
-            row = read.number;
-            values = read.values;
-            return true;
+            if (!read.values.empty()) { // each is used once
+                row = read.number;
+                values = std::move(read.values);
+                read.values.clear();
+                return true;
+            }
         }
         return ReadRow(numbers_[index]);
     }

@@ -24,14 +24,14 @@ struct Recordset::Impl {
     bool editing = false, adding = false;
     bool failed = false; // the last Update was refused
 
-    Session& Session_() const {
+    Session& Alive() const {
         if (!connection || !connection->session || !cursor)
             throw DataError(ObjectClosed, "The recordset is closed.");
         return *connection->session;
     }
     template <typename Body>
     auto Guard(Body body) {
-        return Session_().Guard(body);
+        return Alive().Guard(body);
     }
     void Move(bool found, Place otherwise) {
         place = found ? Place::Row : otherwise;
@@ -48,7 +48,7 @@ struct Recordset::Impl {
         Forget();
     }
     const std::vector<ResultField>& Fields() const {
-        Session_();
+        Alive();
         return cursor->Fields();
     }
     const Value& Current(std::size_t column);
@@ -89,7 +89,7 @@ const Value& Recordset::Impl::Current(std::size_t column) {
 
 // Every column of the table is written, so that all new rows of a table share one statement.
 void Recordset::Impl::Insert(const jet::Table& table) {
-    Session& session = Session_();
+    Session& session = Alive();
     const Regional& regional = *session.Surroundings().regional;
     std::vector<Value> row(table.columns.size());
     for (std::size_t i = 0; i < row.size(); ++i) {
@@ -128,7 +128,7 @@ void Recordset::Impl::Insert(const jet::Table& table) {
 }
 
 void Recordset::Impl::Save(const jet::Table& table) {
-    Session& session = Session_();
+    Session& session = Alive();
     const Regional& regional = *session.Surroundings().regional;
     std::string text = "update \"" + std::string(table.name) + "\" set ";
     std::vector<Value> values;
@@ -248,7 +248,7 @@ void Recordset::Find(std::string_view criterion) {
     impl_->Guard([&] {
         impl_->Settle(*this);
         const std::vector<jet::Term> terms =
-            jet::ParseCriterion(criterion, *impl_->Session_().Surroundings().regional);
+            jet::ParseCriterion(criterion, *impl_->Alive().Surroundings().regional);
         if (impl_->place == Impl::Place::End) return;
         if (impl_->place == Impl::Place::Begin && !impl_->cursor->First()) return;
         impl_->Move(impl_->cursor->Find(terms), Impl::Place::End);
@@ -260,14 +260,14 @@ void Recordset::Filter(std::string_view criterion) {
         impl_->Settle(*this);
         std::vector<jet::Term> terms;
         if (!criterion.empty())
-            terms = jet::ParseCriterion(criterion, *impl_->Session_().Surroundings().regional);
+            terms = jet::ParseCriterion(criterion, *impl_->Alive().Surroundings().regional);
         impl_->cursor->Filter(std::move(terms));
         impl_->Move(impl_->cursor->First(), Impl::Place::End);
     });
 }
 
 Bookmark Recordset::GetBookmark() const {
-    impl_->Session_();
+    impl_->Alive();
     impl_->Require();
     return impl_->cursor->Mark();
 }
@@ -322,7 +322,7 @@ void Recordset::Update() {
 }
 
 void Recordset::CancelUpdate() {
-    impl_->Session_();
+    impl_->Alive();
     impl_->Forget();
 }
 
@@ -331,7 +331,7 @@ void Recordset::Delete() {
         const jet::Table& table = impl_->Target();
         impl_->Forget();
         impl_->Require();
-        Session& session = impl_->Session_();
+        Session& session = impl_->Alive();
         Running running(session.Compile("delete from \"" + std::string(table.name) + "\" where rowid=?1"),
                         {impl_->cursor->Mark()});
         session.Write(running);
@@ -342,13 +342,13 @@ void Recordset::Delete() {
 }
 
 varnik::Value Field::Value() const {
-    recordset_.impl_->Session_();
+    recordset_.impl_->Alive();
     return recordset_.impl_->Current(static_cast<std::size_t>(column_));
 }
 
 Field& Field::operator=(const varnik::Value& value) {
     Recordset::Impl& impl = *recordset_.impl_;
-    impl.Session_();
+    impl.Alive();
     impl.Target();
     const ResultField& field = impl.cursor->Fields()[static_cast<std::size_t>(column_)];
     if (field.column == nullptr || field.column->autoIncrement)

@@ -37,7 +37,7 @@ void Running::Read(int column, Value& value) const {
 Session::Session(const std::filesystem::path& file, std::shared_ptr<FileState> state,
                  const Environment& environment)
     : file_(file), state_(std::move(state)), environment_(&environment) {
-    engine_ = Guard([&] { return OpenEngine(file_); });
+    engine_ = Guard([&] { return OpenEngine(file_, JournalFor(file_)); });
     engine_->Surround(this, environment.busyTimeoutMs);
 }
 

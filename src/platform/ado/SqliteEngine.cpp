@@ -211,19 +211,8 @@ private:
     std::unique_ptr<EngineStatement> version_;
 };
 
-// A log shared through memory works between processes of one machine only.
-bool OnNetwork([[maybe_unused]] const std::filesystem::path& file) {
-#ifdef __linux__
-    struct statfs information = {};
-    if (statfs(file.c_str(), &information) != 0) return false;
-    constexpr std::array<unsigned long, 6> network = {0x6969,     0x517B,     0xFF534D42,
-                                                      0xFE534D42, 0x01021997, 0x5346414F};
-    for (const unsigned long type : network) {
-        if (static_cast<unsigned long>(information.f_type) == type) return true;
-    }
-#endif
-    return false;
-}
+// Reading the schema shows what is no database or cut off.
+constexpr std::string_view ReadSomething = "SELECT count(*) FROM sqlite_master";
 
 // The engine takes an empty file for an empty database and would write into it.
 void RequireDatabase(const std::filesystem::path& file) {
@@ -249,17 +238,15 @@ std::unique_ptr<SqliteEngine> Connect(const std::filesystem::path& file, int fla
     return engine;
 }
 
-void Configure(SqliteEngine& engine, const std::filesystem::path& file) {
+void Configure(SqliteEngine& engine, Journal journal) {
     engine.Run("PRAGMA cache_size=-4000; PRAGMA secure_delete=0; PRAGMA temp_store=MEMORY");
     const bool own = engine.Text("PRAGMA application_id") == std::to_string(ApplicationId);
     const bool writable = sqlite3_db_readonly(engine.Handle(), "main") == 0;
-    std::string journal = engine.Text("PRAGMA journal_mode");
-    if (own && writable) {
-        const std::string wanted = OnNetwork(file) ? "delete" : "wal";
-        if (journal != wanted) journal = engine.Text("PRAGMA journal_mode=" + wanted);
-    }
+    const std::string wanted = journal == Journal::SharedLog ? "wal" : "delete";
+    std::string present = engine.Text("PRAGMA journal_mode");
+    if (own && writable && present != wanted) present = engine.Text("PRAGMA journal_mode=" + wanted);
     // In the log a commit needs no sync to keep the file sound; without it every commit needs one.
-    engine.Run(journal == "wal" ? "PRAGMA synchronous=NORMAL" : "PRAGMA synchronous=FULL");
+    engine.Run(present == "wal" ? "PRAGMA synchronous=NORMAL" : "PRAGMA synchronous=FULL");
 }
 
 } // namespace
@@ -270,13 +257,37 @@ void ThrowSqliteError(sqlite3* database, int code) {
     throw EngineError{fault, std::move(message)};
 }
 
-std::unique_ptr<Engine> OpenEngine(const std::filesystem::path& file) {
+Journal JournalFor([[maybe_unused]] const std::filesystem::path& file) {
+#ifdef __linux__
+    struct statfs information = {};
+    if (statfs(file.c_str(), &information) != 0) return Journal::SharedLog;
+    constexpr std::array<unsigned long, 6> network = {0x6969,     0x517B,     0xFF534D42,
+                                                      0xFE534D42, 0x01021997, 0x5346414F};
+    for (const unsigned long type : network) {
+        if (static_cast<unsigned long>(information.f_type) == type) return Journal::Rollback;
+    }
+#endif
+    return Journal::SharedLog;
+}
+
+std::unique_ptr<Engine> OpenEngine(const std::filesystem::path& file, Journal journal) {
     RequireDatabase(file);
-    std::unique_ptr<SqliteEngine> engine = Connect(file, SQLITE_OPEN_READWRITE);
-    engine->Text(
-        "SELECT count(*) FROM sqlite_master"); // reads the file: shows what is no database or cut off
-    Configure(*engine, file);
-    return engine;
+    try {
+        std::unique_ptr<SqliteEngine> engine = Connect(file, SQLITE_OPEN_READWRITE);
+        // A file that comes from another machine with a log: it is taken over without shared memory.
+        if (journal == Journal::Rollback) engine->Run("PRAGMA locking_mode=EXCLUSIVE");
+        engine->Text(ReadSomething);
+        Configure(*engine, journal);
+        if (journal == Journal::Rollback) {
+            engine->Run("PRAGMA locking_mode=NORMAL");
+            engine->Text(ReadSomething);
+        }
+        return engine;
+    } catch (const EngineError& error) {
+        // The file could be read: what is missing is a log beside it.
+        if (error.fault == Fault::CannotOpen) Throw(Fault::ReadOnly);
+        throw;
+    }
 }
 
 void CreateEngineFile(const std::filesystem::path& file) {
@@ -290,7 +301,7 @@ void CreateEngineFile(const std::filesystem::path& file) {
         std::unique_ptr<SqliteEngine> engine = Connect(file, SQLITE_OPEN_READWRITE);
         engine->Run("PRAGMA page_size=4096; PRAGMA auto_vacuum=NONE; BEGIN; PRAGMA application_id=" +
                     std::to_string(ApplicationId) + "; CREATE TABLE start (x); DROP TABLE start; COMMIT");
-        Configure(*engine, file);
+        Configure(*engine, JournalFor(file));
     } catch (...) {
         std::error_code ignored;
         std::filesystem::remove(file, ignored);
@@ -300,12 +311,12 @@ void CreateEngineFile(const std::filesystem::path& file) {
 
 void CopyEngineFile(const std::filesystem::path& from, const std::filesystem::path& to, bool toLive) {
     RequireDatabase(from);
-    const std::unique_ptr<SqliteEngine> source = Connect(from, SQLITE_OPEN_READWRITE);
-    source->Text("SELECT count(*) FROM sqlite_master");
+    const std::unique_ptr<SqliteEngine> source = Connect(from, SQLITE_OPEN_READONLY);
+    source->Text(ReadSomething);
     if (toLive) RequireDatabase(to);
     const std::unique_ptr<SqliteEngine> target =
         Connect(to, toLive ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    if (toLive) Configure(*target, to);
+    if (toLive) Configure(*target, JournalFor(to));
     sqlite3_backup* copy = sqlite3_backup_init(target->Handle(), "main", source->Handle(), "main");
     if (copy == nullptr) ThrowSqliteError(target->Handle(), sqlite3_errcode(target->Handle()));
     int code = SQLITE_OK;
@@ -324,7 +335,7 @@ void CopyEngineFile(const std::filesystem::path& from, const std::filesystem::pa
 
 std::string CheckEngineFile(const std::filesystem::path& file) {
     RequireDatabase(file);
-    const std::unique_ptr<SqliteEngine> engine = Connect(file, SQLITE_OPEN_READWRITE);
+    const std::unique_ptr<SqliteEngine> engine = Connect(file, SQLITE_OPEN_READONLY);
     const std::string answer = engine->Text("PRAGMA integrity_check(1)");
     return answer == "ok" ? std::string() : answer;
 }

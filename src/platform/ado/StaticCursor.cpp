@@ -1,6 +1,7 @@
 // Rows of a join, a stored query or a summary: read once, never changed.
 
 #include "platform/ado/Cursor.h"
+#include "platform/ado/PackedRows.h"
 
 #include "common/Text.h"
 
@@ -27,20 +28,21 @@ public:
     explicit StaticCursor(CursorSource source) : session_(source.session) {
         Running running(session_.Compile(source.form->statement.sql), source.parameters);
         fields = running.Fields();
+        values.resize(fields.size());
         while (running.Step()) {
-            std::vector<Value>& read = rows_.emplace_back(fields.size());
-            for (std::size_t i = 0; i < read.size(); ++i) running.Read(static_cast<int>(i), read[i]);
+            for (std::size_t i = 0; i < values.size(); ++i) running.Read(static_cast<int>(i), values[i]);
+            rows_.Add(values);
         }
     }
 
     bool First() override { return Forward(0); }
-    bool Last() override { return Backward(rows_.size()); }
+    bool Last() override { return Backward(rows_.Size()); }
     bool Next() override { return Forward(at_ + 1); }
     bool Previous() override { return Backward(at_); }
     bool Find(const std::vector<jet::Term>& terms) override {
         const std::vector<std::size_t> columns = ColumnsOf(terms);
-        for (std::size_t i = at_; i < rows_.size(); ++i) {
-            if (Shown(i) && Meets(rows_[i], terms, columns)) return To(i);
+        for (std::size_t i = at_; i < rows_.Size(); ++i) {
+            if (Shown(i) && Meets(Row(i), terms, columns)) return To(i);
         }
         return false;
     }
@@ -50,26 +52,27 @@ public:
         at_ = 0;
     }
     long Count() override {
+        if (filter_.empty()) return static_cast<long>(rows_.Size());
         long count = 0;
-        for (std::size_t i = 0; i < rows_.size(); ++i) count += Shown(i) ? 1 : 0;
+        for (std::size_t i = 0; i < rows_.Size(); ++i) count += Shown(i) ? 1 : 0;
         return count;
     }
     bool IsEmpty() override { return Count() == 0; }
     Bookmark Mark() const override { return static_cast<Bookmark>(at_); }
     bool Goto(Bookmark bookmark) override {
-        return bookmark >= 0 && static_cast<std::size_t>(bookmark) < rows_.size() &&
+        return bookmark >= 0 && static_cast<std::size_t>(bookmark) < rows_.Size() &&
                To(static_cast<std::size_t>(bookmark));
     }
 
 private:
     bool To(std::size_t index) {
         at_ = index;
-        values = rows_[index];
+        rows_.Read(index, values);
         return true;
     }
     bool Forward(std::size_t index) {
-        while (index < rows_.size() && !Shown(index)) ++index;
-        return index < rows_.size() && To(index);
+        while (index < rows_.Size() && !Shown(index)) ++index;
+        return index < rows_.Size() && To(index);
     }
     bool Backward(std::size_t index) {
         while (index-- > 0) {
@@ -77,8 +80,13 @@ private:
         }
         return false;
     }
+    const std::vector<Value>& Row(std::size_t index) const {
+        looked_.resize(fields.size());
+        rows_.Read(index, looked_);
+        return looked_;
+    }
     bool Shown(std::size_t index) const {
-        return filter_.empty() || Meets(rows_[index], filter_, filterColumns_);
+        return filter_.empty() || Meets(Row(index), filter_, filterColumns_);
     }
 
     std::vector<std::size_t> ColumnsOf(const std::vector<jet::Term>& terms) const {
@@ -136,7 +144,8 @@ private:
     }
 
     Session& session_;
-    std::vector<std::vector<Value>> rows_;
+    PackedRows rows_;
+    mutable std::vector<Value> looked_; // a row under test
     std::size_t at_ = 0;
     std::vector<jet::Term> filter_;
     std::vector<std::size_t> filterColumns_;

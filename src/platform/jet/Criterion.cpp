@@ -91,20 +91,17 @@ std::string ConditionOf(const Term& term, std::size_t parameter) {
     return condition + " ?" + std::to_string(parameter);
 }
 
-Statement TranslateCriterion(std::string_view criterion, const Catalog&, const Regional& regional) {
-    Statement statement;
-    for (Term& term : ParseCriterion(criterion, regional)) {
-        if (!statement.sql.empty()) statement.sql += " and ";
-        statement.sql += ConditionOf(term, statement.parameters.size() + 1);
-        if (!term.value.IsNull()) statement.parameters.push_back(std::move(term.value));
-    }
-    return statement;
+namespace {
+
+// ASCII needs no table of letters; nearly all texts are.
+bool IsAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
+char Fold(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 // Backtracks to the last "%" only, which is enough for this kind of pattern.
-bool Like(std::string_view pattern, std::string_view text) {
-    const std::string wanted = Upper(pattern), found = Upper(text);
-    std::size_t p = 0, t = 0, star = std::string::npos, mark = 0;
+bool Matches(std::string_view wanted, std::string_view found) {
+    std::size_t p = 0, t = 0, star = std::string_view::npos, mark = 0;
     while (t < found.size()) {
         if (p < wanted.size() && wanted[p] == '%') {
             star = p++;
@@ -112,10 +109,10 @@ bool Like(std::string_view pattern, std::string_view text) {
         } else if (p < wanted.size() && wanted[p] == '_') {
             ++p;
             t = NextCharacter(found, t);
-        } else if (p < wanted.size() && wanted[p] == found[t]) {
+        } else if (p < wanted.size() && Fold(wanted[p]) == Fold(found[t])) {
             ++p;
             ++t;
-        } else if (star != std::string::npos) {
+        } else if (star != std::string_view::npos) {
             p = star + 1;
             mark = NextCharacter(found, mark);
             t = mark;
@@ -125,6 +122,13 @@ bool Like(std::string_view pattern, std::string_view text) {
     }
     while (p < wanted.size() && wanted[p] == '%') ++p;
     return p == wanted.size();
+}
+
+} // namespace
+
+bool Like(std::string_view pattern, std::string_view text) {
+    if (IsAscii(pattern) || IsAscii(text)) return Matches(pattern, text);
+    return Matches(Upper(pattern), Upper(text));
 }
 
 } // namespace varnik::jet

@@ -33,7 +33,6 @@ std::vector<Value> Fill(const Form& form, const Tokens& tokens, const Regional& 
         const std::string& text = tokens.literals[static_cast<std::size_t>(slot.literal)];
         switch (slot.kind) {
         case Slot::Kind::Text:
-        case Slot::Kind::Pattern:
             parameters.emplace_back(text);
             break;
         case Slot::Kind::Amount:

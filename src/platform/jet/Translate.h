@@ -34,7 +34,7 @@ public:
 
 // What a literal becomes when it is handed to the engine.
 struct Slot {
-    enum class Kind { Text, Date, Day, Amount, Pattern } kind;
+    enum class Kind { Text, Date, Day, Amount } kind;
     int literal;
 };
 
@@ -64,8 +64,6 @@ struct Term {
 std::vector<Term> ParseCriterion(std::string_view criterion, const Regional& regional);
 // A term as an engine condition, its value as this parameter (none for a comparison with Null).
 std::string ConditionOf(const Term& term, std::size_t parameter);
-// All terms as an engine condition with parameters.
-Statement TranslateCriterion(std::string_view criterion, const Catalog& catalog, const Regional& regional);
 
 // Whether a text meets a pattern of "%" (any text) and "_" (any one character), without regard to case.
 bool Like(std::string_view pattern, std::string_view text);

@@ -2,8 +2,8 @@
 
 #include "tests/unit/ado/Fixture.h"
 
+#include <csignal>
 #include <fstream>
-#include <thread>
 
 #include <sys/wait.h>
 
@@ -168,22 +168,75 @@ TEST_F(FileTest, ClosingAfterWritingSyncsOnce) {
     EXPECT_EQ(state.syncs, before + 2);
 }
 
-// Killed between two statements: what was written is there, and the file is sound.
+// Killed while it writes: every statement that had returned is there, and the file is sound.
 TEST_F(FileTest, AKilledProcessLosesNothingItWrote) {
     CreateAll();
     ReleaseDatabase(file);
-    const pid_t child = fork();
-    if (child == 0) {
-        Connection connection = Open();
-        for (int i = 0; i < 50; ++i)
-            connection.Execute("Insert Into Biaya Values ('" + std::to_string(i) + "','x')");
-        _exit(0);
+    for (const int statements : {1, 7, 60}) {
+        int ends[2] = {};
+        ASSERT_EQ(pipe(ends), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            Connection connection = Open();
+            for (int i = 0;; ++i) {
+                connection.Execute("Insert Into Persediaan (KodeBrg,Qty1,QtySisa) Values ('K',1,1)");
+                if (write(ends[1], "x", 1) != 1) _exit(1);
+            }
+        }
+        close(ends[1]);
+        char mark = 0;
+        for (int i = 0; i < statements; ++i) ASSERT_EQ(read(ends[0], &mark, 1), 1);
+        kill(child, SIGKILL);
+        int written = statements;
+        while (read(ends[0], &mark, 1) == 1) ++written;
+        close(ends[0]);
+        waitpid(child, nullptr, 0);
+        const std::int64_t found = Ask("Select Count(*) From Persediaan").Integer();
+        EXPECT_TRUE(found == written || found == written + 1) << found << " of " << written;
+        EXPECT_EQ(CheckDatabase(file), "");
+        Run("Delete From Persediaan");
+        ReleaseDatabase(file);
     }
-    int status = 1;
-    waitpid(child, &status, 0);
-    ASSERT_EQ(status, 0);
-    EXPECT_EQ(Ask("Select Count(*) From Biaya"), Value(50));
+}
+
+TEST_F(FileTest, AFullDiskIsToldAndNothingIsHalfWritten) {
+    CreateAll();
+    Connection connection = Open();
+    ExecuteNative(connection, "PRAGMA max_page_count=40");
+    const std::string text(50, 'x');
+    std::string told;
+    std::int64_t written = 0;
+    while (FailureOf(
+               [&] {
+                   connection.Execute("Insert Into Biaya Values ('" + std::to_string(written) + "','" + text +
+                                      "')");
+               },
+               &told) == 0)
+        ++written;
+    EXPECT_EQ(told, "The disk is full: nothing more can be written to the database \"Varnik.mdb\".");
+    EXPECT_EQ(Ask("Select Count(*) From Biaya"), Value(written));
+    ExecuteNative(connection, "PRAGMA max_page_count=100000");
+    connection.Execute("Insert Into Biaya Values ('last','x')");
     EXPECT_EQ(CheckDatabase(file), "");
+}
+
+// On a network drive: a file that had a shared log is taken over, and several may use it.
+TEST_F(FileTest, WithoutASharedLogAJournalServes) {
+    CreateAll();
+    AddCustomer("A", "Adi");
+    ReleaseDatabase(file);
+    const auto count = [](Engine& engine) {
+        const std::unique_ptr<EngineStatement> statement = engine.Compile("SELECT count(*) FROM Customer");
+        statement->Step();
+        return statement->ReadInteger(0);
+    };
+    std::unique_ptr<Engine> first = OpenEngine(file, Journal::Rollback);
+    EXPECT_EQ(Bytes(file)[18], 1); // the file's own mark of a journal, 2 for a log
+    std::unique_ptr<Engine> second = OpenEngine(file, Journal::Rollback);
+    first->Run("INSERT INTO Customer VALUES ('B', NULL, 0, 0, 0, 0)");
+    second->Run("INSERT INTO Customer VALUES ('C', NULL, 0, 0, 0, 0)");
+    EXPECT_EQ(count(*first), 3);
+    EXPECT_FALSE(fs::exists(file.string() + "-wal"));
 }
 
 TEST_F(FileTest, NoticesThatAnotherFileTookItsPlace) {

@@ -143,11 +143,15 @@ TEST(Translate, TextsOfOnePlaceHaveOneShape) {
 
 TEST(Criterion, ReadsFindsAndFilters) {
     const Regional regional;
-    const Statement statement =
-        TranslateCriterion("KodeBrg='A1' And UserId LIKE 'a*b?' And Qty >= -2.5", TestCatalog, regional);
-    EXPECT_EQ(statement.sql, "\"KodeBrg\" = ?1 and \"UserId\" like ?2 and \"Qty\" >= ?3");
-    EXPECT_EQ(statement.parameters[1], Value("a%b_"));
-    EXPECT_EQ(statement.parameters[2], Value(-2.5));
+    const std::vector<Term> terms =
+        ParseCriterion("KodeBrg='A1' And UserId LIKE 'a*b?' And [Qty] >= -2.5", regional);
+    ASSERT_EQ(terms.size(), 3u);
+    EXPECT_EQ(ConditionOf(terms[0], 1), "\"KodeBrg\" = ?1");
+    EXPECT_EQ(ConditionOf(terms[1], 2), "\"UserId\" like ?2");
+    EXPECT_EQ(terms[1].value, Value("a%b_"));
+    EXPECT_EQ(ConditionOf(terms[2], 7), "\"Qty\" >= ?7");
+    EXPECT_EQ(terms[2].value, Value(-2.5));
+    EXPECT_EQ(ConditionOf(ParseCriterion("A <> Null", regional)[0], 1), "\"A\" is not null");
     for (const char* bad :
          {"", "KodeBrg", "KodeBrg=", "='A'", "KodeBrg='O'Brien'", "A='1' Or B='2'", "A='1' B='2'"})
         EXPECT_THROW(ParseCriterion(bad, regional), SyntaxError) << bad;
