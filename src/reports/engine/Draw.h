@@ -11,6 +11,8 @@ namespace varnik::reports::look {
 inline constexpr double Margin = 12;       // mm, on all four sides
 inline constexpr double FootRoom = 9;      // mm above the lower margin for the page number
 inline constexpr double CellPadding = 1.3; // mm on each side of a cell
+inline constexpr double FigureGap = 1.5;   // mm, so that figures side by side do not run together
+inline constexpr double GroupGap = 1.8;    // mm above a group's heading
 inline constexpr Ink Black = 0x1D2329;
 inline constexpr Ink Muted = 0x5C6773;
 inline constexpr Ink Accent = 0x1F4E79;

@@ -67,7 +67,7 @@ void Layout::ListGroups(std::size_t level, Span span) {
             items_.back().height = static_cast<float>(SummaryHeight(items_.back()));
             continue;
         }
-        if (!group.header.Empty()) Add(Kind::GroupHeader, LineItemHeight(), level, i);
+        if (!group.header.Empty()) Add(Kind::GroupHeader, LineItemHeight() + GroupGap, level, i);
         ListGroups(level + 1, groups[i]);
         if (!group.footer.Empty() && table_.HasTotals()) Add(Kind::GroupFooter, LineItemHeight(), level, i);
     }
@@ -205,7 +205,7 @@ void Layout::Draw(const Item& item, double y, Page& page) const {
         HorizontalRule(page, Margin, y + item.height, width);
         break;
     case Kind::GroupHeader:
-        DrawGroupHeader(item.level, item.index, false, y, page);
+        DrawGroupHeader(item.level, item.index, false, y + GroupGap, page);
         break;
     case Kind::Row:
         DrawCells([&](const Slot& slot) { return table_.CellText(slot, item.index); }, y, item.height, page);

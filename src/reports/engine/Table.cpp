@@ -105,11 +105,14 @@ void Table::OrderRows() {
     for (const std::string& name : definition_.sort)
         if (const int column = rows_.Find(name); column >= 0) keys.push_back(column);
     if (keys.empty()) return;
-    std::stable_sort(order_.begin(), order_.end(), [&](std::uint32_t a, std::uint32_t b) {
+    const auto before = [&](std::uint32_t a, std::uint32_t b) {
         for (const int key : keys)
             if (const int order = Compare(rows_, a, b, key); order != 0) return order < 0;
         return false;
-    });
+    };
+    // Most statements bring the order along, and looking is much cheaper than sorting.
+    if (!std::is_sorted(order_.begin(), order_.end(), before))
+        std::stable_sort(order_.begin(), order_.end(), before);
 }
 
 void Table::Balance() {
@@ -201,8 +204,8 @@ double Table::NeededWidth(const Slot& slot, double size) const {
     if (slot.figures) {
         const auto& [least, most] = extremes_[static_cast<std::size_t>(&slot - slots_.data())];
         for (const double number : {least, most})
-            needed = std::max(needed,
-                              TextWidth(NumberText(number, slot.mask), size, true) + 2 * look::CellPadding);
+            needed = std::max(needed, TextWidth(NumberText(number, slot.mask), size, true) +
+                                          2 * look::CellPadding + look::FigureGap);
     }
     return needed;
 }

@@ -37,32 +37,52 @@ const Face& FaceOf(double points, bool bold) {
 
 QColor Colour(reports::Ink ink) { return QColor(static_cast<QRgb>(ink)); }
 
+// How a text is set into its area, in units.
+struct Setting {
+    double x = 0, advance = 0;
+    double narrow = 1; // below 1 where the font runs wider than the area
+};
+
+Setting Set(const reports::TextRun& run, const QString& text, const Face& face) {
+    const double width = run.area.width * UnitsPerMm;
+    Setting setting;
+    setting.advance = face.metrics.horizontalAdvance(text);
+    if (setting.advance > width) setting.narrow = width / setting.advance;
+    const double room = width - setting.advance * setting.narrow;
+    setting.x = run.area.x * UnitsPerMm;
+    if (run.align == reports::Align::Right) setting.x += room;
+    if (run.align == reports::Align::Center) setting.x += room / 2;
+    return setting;
+}
+
 void PaintRun(QPainter& painter, const reports::TextRun& run) {
     const Face& face = FaceOf(run.size, run.bold);
     const QString text = QString::fromStdString(run.text);
-    const double width = run.area.width * UnitsPerMm, height = run.area.height * UnitsPerMm;
-    const double advance = face.metrics.horizontalAdvance(text);
-    const double narrow = advance > width && advance > 0 ? width / advance : 1;
-    const double room = width - advance * narrow;
-    double x = run.area.x * UnitsPerMm;
-    if (run.align == reports::Align::Right) x += room;
-    if (run.align == reports::Align::Center) x += room / 2;
+    const Setting setting = Set(run, text, face);
     const double ascent = face.metrics.ascent(), descent = face.metrics.descent();
-    const double baseline = run.area.y * UnitsPerMm + (height - ascent - descent) / 2 + ascent;
+    const double baseline =
+        run.area.y * UnitsPerMm + (run.area.height * UnitsPerMm - ascent - descent) / 2 + ascent;
     painter.setFont(face.font);
     painter.setPen(Colour(run.ink));
-    if (narrow == 1) {
-        painter.drawText(QPointF(x, baseline), text);
+    if (setting.narrow == 1) {
+        painter.drawText(QPointF(setting.x, baseline), text);
         return;
     }
     painter.save();
-    painter.translate(x, baseline);
-    painter.scale(narrow, 1);
+    painter.translate(setting.x, baseline);
+    painter.scale(setting.narrow, 1);
     painter.drawText(QPointF(0, 0), text);
     painter.restore();
 }
 
 } // namespace
+
+QRectF TextPlace(const reports::TextRun& run) {
+    constexpr double Air = 0.8; // mm
+    const Setting setting = Set(run, QString::fromStdString(run.text), FaceOf(run.size, run.bold));
+    return QRectF(setting.x / UnitsPerMm - Air, run.area.y - Air / 4,
+                  setting.advance * setting.narrow / UnitsPerMm + 2 * Air, run.area.height + Air / 2);
+}
 
 void PaintPage(QPainter& painter, const reports::Page& page) {
     painter.save();

@@ -15,7 +15,7 @@ namespace {
 
 constexpr double Gap = 16; // px between pages and around them
 constexpr double LeastPercent = 20, MostPercent = 500;
-const QColor Desk(0xE3E7EC), Edge(0xC3CAD3), HitColour(255, 214, 0, 110);
+const QColor Edge(0, 0, 0, 45), HitColour(255, 214, 0, 110);
 
 } // namespace
 
@@ -127,7 +127,7 @@ const reports::Page& PageView::BuiltPage(int page) {
 
 void PageView::paintEvent(QPaintEvent*) {
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), Desk);
+    painter.fillRect(viewport()->rect(), palette().color(QPalette::Window).darker(107));
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const double step = PageHeight() + Gap;
     const int first = std::max(1, static_cast<int>(verticalScrollBar()->value() / step));
@@ -145,9 +145,7 @@ void PageView::paintEvent(QPaintEvent*) {
         painter.scale(PixelsPerMm(percent_), PixelsPerMm(percent_));
         const reports::Page& built = BuiltPage(page);
         if (hit_ && hit_->page == page && hit_->run < static_cast<int>(built.runs.size())) {
-            const reports::Area& area = built.runs[static_cast<std::size_t>(hit_->run)].area;
-            painter.fillRect(QRectF(area.x, area.y, area.width, area.height).adjusted(-0.8, -0.2, 0.8, 0.2),
-                             HitColour);
+            painter.fillRect(TextPlace(built.runs[static_cast<std::size_t>(hit_->run)]), HitColour);
         }
         PaintPage(painter, built);
         painter.restore();
