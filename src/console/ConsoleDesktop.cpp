@@ -104,13 +104,22 @@ void ConsoleDesktop::Place(Shown shown) {
         if (auto* field = dynamic_cast<forms::TextControl*>(control))
             field->selectAll = [this, field] { keyboard_.SelectAll(*field); };
     screen.Present();
-    if (!screen.Closed()) screen.Act([&] { screen.Activate(); });
+    TellFront();
+}
+
+// The screen that has come to the front hears of it once.
+void ConsoleDesktop::TellFront() {
+    forms::Screen* const top = Top();
+    if (top == front_) return;
+    front_ = top;
+    if (top) top->Act([top] { top->Activate(); });
 }
 
 void ConsoleDesktop::TakeAway(forms::Screen& screen) {
     const auto at = std::ranges::find_if(pile_, [&](const Shown& s) { return s.screen.get() == &screen; });
     if (at == pile_.end()) return;
     keyboard_.ScreenGone(screen);
+    if (front_ == &screen) front_ = nullptr;
     closed_.push_back(std::move(at->screen));
     if (at->then) waiting_.push_back(std::move(at->then));
     pile_.erase(at);
@@ -126,7 +135,7 @@ void ConsoleDesktop::BringToFront(forms::Screen& screen) {
     const auto at = std::ranges::find_if(pile_, [&](const Shown& s) { return s.screen.get() == &screen; });
     if (at == pile_.end() || at + 1 == pile_.end()) return;
     std::rotate(at, at + 1, pile_.end());
-    screen.Act([&] { screen.Activate(); });
+    TellFront();
 }
 
 void ConsoleDesktop::ComeForward(forms::Screen& screen) {
@@ -154,6 +163,7 @@ void ConsoleDesktop::Settle() {
     for (const auto& screen : closed_) keyboard_.ScreenGone(*screen);
     while (!closed_.empty()) closed_.pop_back(); // the newest first: an older one may have opened it
     poppedUp_ = nullptr;
+    TellFront();
 }
 
 void ConsoleDesktop::Quit() {

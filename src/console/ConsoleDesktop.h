@@ -77,6 +77,7 @@ private:
     };
     void Place(Shown shown);
     void TakeAway(forms::Screen& screen);
+    void TellFront();
     // The next queued answer, which has to be of this kind or the button "cancel".
     QueuedAnswer NextAnswer(QueuedAnswer::Kind kind, const std::string& question);
     std::optional<std::string> AskText(QueuedAnswer::Kind kind, const std::string& question);
@@ -87,6 +88,7 @@ private:
     std::vector<std::unique_ptr<forms::Screen>> closed_; // until the handler that closed them has returned
     std::deque<std::function<void()>> waiting_;
     forms::Menu* poppedUp_ = nullptr;
+    forms::Screen* front_ = nullptr; // that heard last of being there
     bool running_ = false;
 };
 

@@ -58,6 +58,8 @@ public:
         Clock.onTick = [this] { Ticks.SetCaption(std::to_string(++ticks_)); };
     }
 
+    void Activate() override { SetCaption("front " + std::to_string(++fronts_)); }
+
     const Box question{.text = "Sure ?", .buttons = Buttons::YesNo};
     forms::TextBox Code{*this, "Code", "&Code"}, Amount{*this, "Amount"}, Locked{*this, "Locked"};
     forms::TextBox Hidden{*this, "Hidden"};
@@ -76,7 +78,7 @@ public:
     forms::Timer Clock{*this, "Clock", 100};
 
 private:
-    int ticks_ = 0;
+    int ticks_ = 0, fronts_ = 0;
 };
 
 struct Outcome {
@@ -186,8 +188,9 @@ TEST(Words, BoxesAndScreens) {
         expect({message(), message(), message()}, {"first", "second"})
         click "Modal"
         expect(screens(), {"Sample", "Second"})
+        expect(caption "Sample.Ticks", "0")
         click "bttnClose"
-        expect(text "Code", "CLOSED")
+        expect({text "Code", caption()}, {"CLOSED", "front 2"})
         click "Other"
         enter("Sample.Code", "back")
         expect(current(), "Sample")
