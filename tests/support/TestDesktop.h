@@ -33,7 +33,8 @@ public:
     DateTime now{20779, 34200};                   // 2026-11-22 09:30
     bool anotherInstance = false;
     std::filesystem::path folder;
-    std::string reportFailure; // not empty: LaunchReport throws a DataError with it
+    std::function<void()> meanwhile; // runs while a box with more than OK shows: the world may change
+    std::string reportFailure;       // not empty: LaunchReport throws a DataError with it
 
     // --- What it keeps ---
     std::vector<Box> boxes; // all that were shown, oldest first
@@ -58,6 +59,7 @@ public:
     Answer MessageBox(const Box& box) override {
         boxes.push_back(box);
         if (box.buttons == Buttons::Ok) return Answer::Ok;
+        if (meanwhile) meanwhile();
         if (answers.empty()) {
             ADD_FAILURE() << "a box asks without a queued answer: " << box.text;
             return box.buttons == Buttons::AbortRetryIgnore ? Answer::Abort : Answer::Cancel;
