@@ -2,6 +2,7 @@
 
 #include <QFrame>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
@@ -78,7 +79,9 @@ void ElasticLayout::Apply(QWidget& window) {
             widget->setFont(font);
             // Under a style sheet the parts of a widget do not take its letters over.
             for (QWidget* part : widget->findChildren<QWidget*>())
-                if (qobject_cast<QLineEdit*>(part) || qobject_cast<QHeaderView*>(part)) part->setFont(font);
+                if (qobject_cast<QLineEdit*>(part) || qobject_cast<QHeaderView*>(part) ||
+                    qobject_cast<QLabel*>(part))
+                    part->setFont(font);
             if (auto* button = qobject_cast<QPushButton*>(widget))
                 button->setIconSize(QSize(place.fontSize + 3, place.fontSize + 3));
         }

@@ -236,7 +236,9 @@ void PageBuilder::PutCell(const Node& cell, QGridLayout& grid, int row, int colu
     if (!binding) return;
     Dress(*binding, cell);
     if (QLabel* label = LabelOf(cell, *binding)) grid.addWidget(label, row, 2 * column);
-    const bool narrow = binding->Widget()->maximumWidth() < QWIDGETSIZE_MAX;
+    const Kind kind = binding->Control().GetKind();
+    const bool narrow = binding->Widget()->maximumWidth() < QWIDGETSIZE_MAX || kind == Kind::CheckBox ||
+                        kind == Kind::OptionButton;
     grid.addWidget(binding->Widget(), row, fieldColumn, 1, fieldSpan,
                    narrow ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment());
 }
@@ -370,7 +372,7 @@ void PageBuilder::PlaceOverlays(const Page& page) {
     for (const Overlay& overlay : page.overlays) {
         Binding* binding = binder_.Find(overlay.control);
         if (!binding || !binding->Widget()) continue;
-        constexpr int toolRow = 43; // stays in reach
+        constexpr int toolRow = 42; // stays in reach
         const QRect room = window_.rect().adjusted(Edge, Edge + toolRow, -Edge, -Edge);
         const QSize size(overlay.width > 0 ? overlay.width : room.width(),
                          overlay.height > 0 ? overlay.height : room.height());

@@ -44,7 +44,7 @@ public:
         if (!renewed || renewed->columnCount() == 0) return;
         verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
         const auto& columns = renewed->Columns();
-        const int unit = fontMetrics().averageCharWidth();
+        const int unit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
         int sum = 0;
         int widest = columns.size() > 1 ? 1 : 0; // of equals the second: the name behind a code
         std::vector<int> widths;
@@ -52,14 +52,25 @@ public:
             const int heading =
                 horizontalHeader()->fontMetrics().horizontalAdvance(ToQt(columns[i].caption)) + 18;
             // A column of width 0 is there for the screen alone.
-            widths.push_back(columns[i].width == 0 ? 0 : std::max(columns[i].width * unit + 14, heading));
+            widths.push_back(columns[i].width == 0 ? 0 : std::max(columns[i].width * unit + 20, heading));
             sum += widths.back();
             if (columns[i].width > columns[static_cast<std::size_t>(widest)].width)
                 widest = static_cast<int>(i);
         }
-        // The widest column takes what is left, and gives up to half of its own before the table scrolls.
+        // The widest column takes what is left. Where room is short the others give up a little first, then
+        // it gives up to half of its own, then the table scrolls.
+        constexpr double least = 0.85;
         int& wide = widths[static_cast<std::size_t>(widest)];
-        wide = std::max(wide + viewport()->width() - sum, wide / 2);
+        const int room = viewport()->width(), others = sum - wide;
+        if (sum > room && others > 0) {
+            const double share = std::clamp(double(room - wide) / others, least, 1.0);
+            for (int& width : widths)
+                if (&width != &wide) width = static_cast<int>(width * share);
+            sum = wide;
+            for (const int& width : widths)
+                if (&width != &wide) sum += width;
+        }
+        wide = std::max(wide + room - sum, wide / 2);
         for (int i = 0; i < static_cast<int>(widths.size()); ++i) {
             setColumnHidden(i, widths[static_cast<std::size_t>(i)] == 0);
             horizontalHeader()->resizeSection(i, widths[static_cast<std::size_t>(i)]);

@@ -1,0 +1,33 @@
+-- A few products, customers and sales, entered as a person would, for pictures of the screens.
+
+start()
+login("varnik", "kemiri")
+
+open "F01"
+for _, p in ipairs {
+  {"ARABICA COFFEE 250 G", "PACK", "42000", "55000", "120"},
+  {"GREEN TEA LOOSE LEAF 100 G", "TIN", "24500", "31500", "80"},
+  {"PALM SUGAR 500 G", "PACK", "13000", "18000", "200"},
+  {"GINGER BISCUITS", "TIN", "37500", "49000", "36"},
+  {"COCONUT MILK 1 L", "PACK", "21000", "28500", "64"},
+} do
+  click "bttnAdd"
+  type("txtKode", "{Enter}") -- goes on to the service box
+  enter("txtNama", p[1])
+  enter("TxtSatuan", p[2])
+  enter("TxtSatuanBeli", p[2])
+  enter("txtHargaBeli", p[3])
+  enter("TxtSatuanJual", p[2])
+  enter("TxtHargaJual", p[4])
+  enter("TxtQGudang", p[5])
+  click "bttnOK"
+end
+
+for _, c in ipairs {
+  {"0000000001", "WARUNG BU TINI", "Jl. Kenanga 7", "Cimahi"},
+  {"0000000002", "TOKO SINAR PAGI", "Jl. Melati 21", "Bandung"},
+  {"0000000003", "KANTIN SEKOLAH HARAPAN", "Jl. Merdeka 110", "Bandung"},
+} do
+  sql("INSERT INTO Customer VALUES ('" .. c[1] .. "','001','" .. c[2] .. "','" .. c[3] .. "','" .. c[4] ..
+      "','','','','','','',0,0,14,'',0,0,'')")
+end

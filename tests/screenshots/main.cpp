@@ -1,0 +1,200 @@
+// varnik-screenshots DATA PICTURES: pictures of every screen as a user sees it, on the data of a program
+// folder, at the size at load and grown by 1.3. script/screenshots prepares the folder and calls it.
+
+#include "app/Program.h"
+#include "app/ProgramFolder.h"
+#include "ui/QtDesktop.h"
+#include "ui/ScreenWindow.h"
+#include "ui/Style.h"
+#include "ui/preview/PreviewWindow.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QMessageBox>
+#include <QTest>
+#include <functional>
+#include <iostream>
+
+namespace varnik {
+namespace {
+
+class Photographer {
+public:
+    Photographer(const std::filesystem::path& data, QString pictures)
+        : pictures_(std::move(pictures)),
+          desktop_(PrepareProgramFolder(data), regional_),
+          program_(desktop_, regional_) {
+        QDir().mkpath(pictures_);
+        desktop_.SetServices(program_.Access());
+        program_.Start();
+    }
+    ~Photographer() { desktop_.DropScreens(); }
+    Photographer(const Photographer&) = delete;
+    Photographer& operator=(const Photographer&) = delete;
+
+    void TakeAll() {
+        Both("fLogin");
+        Keys("fLogin", "txtUserId", "varnik");
+        Press("fLogin", Qt::Key_Return);
+        Keys("fLogin", "txtPassword", "kemiri");
+        Press("fLogin", Qt::Key_Return);
+        Settle([&] { return Window("frmMainCode"); });
+        Both("frmMainCode");
+        Menu("lblFile");
+        Menu("lblTool");
+        Menu("lblHelp");
+        Box();
+        for (const auto& [key, entry] : program_.Access().screens) {
+            Open(key, entry.name);
+            Both(entry.name.c_str());
+        }
+        Product();
+        Invoice();
+    }
+
+private:
+    void Product() {
+        if (!Open("F01", "fProduk")) return;
+        Keys("fProduk", "txtKode", "0000000001");
+        Press("fProduk", Qt::Key_Return);
+        Both("fProduk", "record");
+        Click("fProduk", "bttnFind");
+        Click("fProduk", "cmdExecute");
+        Both("fProduk", "search");
+    }
+
+    void Invoice() {
+        if (!Open("T01", "Invoice")) return;
+        Click("Invoice", "bttnNew");
+        EnterUpTo("Invoice", "TxtKodeCus");
+        Press("Invoice", Qt::Key_F5);
+        Both("Invoice", "lookup");
+        Press("Invoice", Qt::Key_Return);
+        for (const char* line : {"0000000001", "0000000002", "0000000003"}) {
+            EnterUpTo("Invoice", "txtKodeBrg");
+            Keys("Invoice", "txtKodeBrg", line);
+            Press("Invoice", Qt::Key_Return);
+            Keys("Invoice", "txtQty", "2");
+            if (line[9] == '3') break; // the third stays on the entry line
+            EnterUpTo("Invoice", "bttnAddLine");
+            Press("Invoice", Qt::Key_Return); // adds it
+            Press("Invoice", Qt::Key_Return); // opens the next
+        }
+        Both("Invoice", "entry");
+        EnterUpTo("Invoice", "bttnAddLine");
+        Press("Invoice", Qt::Key_Return);
+        Click("Invoice", "bttnSave");
+        Both("Invoice", "saved");
+        Click("Invoice", "bttnPrint");
+        Preview("Invoice-print");
+        Click("Invoice", "bttnFind");
+        Click("Invoice", "cmdExecute");
+        Both("Invoice", "search");
+    }
+
+    ui::ScreenWindow* Window(const std::string& screen) { return desktop_.WindowOf(screen); }
+    bool Open(const std::string& key, const std::string& name) {
+        if (!program_.Access().screens.contains(key)) return false;
+        OpenScreen(program_.Access(), key, name);
+        Settle([&] { return Window(name) && Window(name)->isVisible(); });
+        return true;
+    }
+    static void Settle(const std::function<bool()>& condition) {
+        if (!QTest::qWaitFor(condition, 5000)) std::cerr << "a window did not come up\n";
+        QTest::qWait(60); // lets everything paint
+    }
+    QWidget* Find(const std::string& screen, const char* name) {
+        ui::ScreenWindow* window = Window(screen);
+        auto* widget = window ? window->findChild<QWidget*>(QString::fromLatin1(name)) : nullptr;
+        if (!widget) std::cerr << screen << "." << name << " is not there\n";
+        return widget;
+    }
+    void Keys(const std::string& screen, const char* name, const char* text) {
+        QWidget* widget = Find(screen, name);
+        if (!widget) return;
+        Window(screen)->Screen().MoveFocus(*Window(screen)->Screen().FindControl(name));
+        QTest::keyClicks(widget, QString::fromUtf8(text));
+    }
+    void Press(const std::string& screen, Qt::Key key) {
+        ui::ScreenWindow* window = Window(screen);
+        if (!window) return;
+        QTest::keyClick(window->focusWidget() ? window->focusWidget() : window, key);
+    }
+    void EnterUpTo(const std::string& screen, const std::string& control) {
+        for (int step = 0; step < 15; ++step) {
+            const forms::Control* focused = Window(screen)->Screen().Focused();
+            if (focused && focused->Name() == control) return;
+            Press(screen, Qt::Key_Return);
+        }
+        std::cerr << screen << "." << control << " was not reached\n";
+    }
+    void Click(const std::string& screen, const char* name) {
+        if (QWidget* widget = Find(screen, name)) QTest::mouseClick(widget, Qt::LeftButton);
+    }
+
+    void Save(QWidget& widget, const QString& name) {
+        QTest::qWait(60);
+        const QString file = QStringLiteral("%1/%2.png").arg(pictures_, name);
+        if (!widget.grab().save(file)) std::cerr << "cannot write " << file.toStdString() << "\n";
+    }
+    void Both(const char* screen, const char* scene = nullptr) {
+        ui::ScreenWindow* window = Window(screen);
+        if (!window) return;
+        QString name = QString::fromLatin1(screen);
+        if (scene) name += QStringLiteral("-%1").arg(QLatin1String(scene));
+        Save(*window, name);
+        const QSize size = window->size();
+        window->resize(size * 1.3);
+        QTest::qWait(30);
+        Save(*window, name + QStringLiteral("-130"));
+        window->resize(size);
+        QTest::qWait(30);
+    }
+    void Menu(const char* label) {
+        Click("frmMainCode", label);
+        if (!QTest::qWaitFor([] { return QApplication::activePopupWidget(); }, 2000)) return;
+        QWidget* menu = QApplication::activePopupWidget();
+        Save(*menu, QStringLiteral("frmMain-%1").arg(QLatin1String(label)));
+        menu->close();
+    }
+    void Box() {
+        QTimer::singleShot(150, &context_, [&] {
+            QWidget* box = QApplication::activeModalWidget();
+            if (!box) return;
+            Save(*box, QStringLiteral("box"));
+            box->close();
+        });
+        desktop_.MessageBox(
+            {"This product always on table ,\r\nAdded again?", "Double", Icon::Question, Buttons::YesNo});
+    }
+    void Preview(const char* name) {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* preview = dynamic_cast<ui::PreviewWindow*>(window); preview && preview->isVisible()) {
+                Save(*preview, QString::fromLatin1(name));
+                preview->close();
+                return;
+            }
+        std::cerr << "no preview came up\n";
+    }
+
+    QString pictures_;
+    QObject context_;
+    Regional regional_;
+    ui::QtDesktop desktop_;
+    Program program_;
+};
+
+} // namespace
+} // namespace varnik
+
+int main(int count, char** words) {
+    QApplication application(count, words);
+    if (count < 3) {
+        std::cerr << "varnik-screenshots DATA PICTURES [dark]\n";
+        return 2;
+    }
+    varnik::ui::ApplyStyle(application, count > 3 && std::string(words[3]) == "dark");
+    varnik::Photographer(words[1], QString::fromLocal8Bit(words[2])).TakeAll();
+    return 0;
+}
