@@ -2,6 +2,7 @@
 
 #include "common/Text.h"
 #include "data/Bootstrap.h"
+#include "data/DataSource.h"
 #include "platform/desktop/Failure.h"
 #include "platform/desktop/Services.h"
 #include "shell/fLogin.h"
@@ -89,7 +90,8 @@ void Main(Services& services) {
         data::BootstrapDatabase(services);
         // A restore names the database relative to the working directory.
         std::error_code ignored;
-        std::filesystem::current_path(services.desktop.ProgramFolder() / "Data", ignored);
+        std::filesystem::current_path(data::DatabaseFile(services.desktop.ProgramFolder()).parent_path(),
+                                      ignored);
         SignOut(session);
         session.ConnectionString = "DSN=VarNik";
         ReadCompany(services);

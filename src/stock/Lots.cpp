@@ -27,6 +27,19 @@ void Raise(Guard& step, ado::Recordset& found, const char* column, double amount
     if (any) step.PutRow(found, {{column, [&] { return Amount(found, column) + amount; }}});
 }
 
+// What a sale drew from one lot, as PersediaanJual and PersediaanRetur keep it.
+struct Draw {
+    double quantity = 0, price = 0;
+    std::string purchase;
+
+    // Three steps; what one passes over keeps the value of the row before.
+    void Read(Guard& step, ado::Recordset& rows) {
+        step.Step([&] { quantity = Amount(rows, "Qty"); });
+        step.Step([&] { price = Amount(rows, "Harga"); });
+        step.Step([&] { purchase = TextOf(rows, "NoPO"); });
+    }
+};
+
 // Walks rows in the order of entry. A row that the body moves off or deletes is not visited again.
 template <typename Body>
 void ForEachRow(Guard& step, ado::Recordset& rows, const Body& body) {
@@ -114,8 +127,8 @@ double ConsumeLots(Guard& step, ado::Connection& connection, const SaleLine& lin
 
 void RestoreLots(Guard& step, ado::Connection& connection, const RestoredLine& line,
                  ado::Recordset& product) {
-    double running = line.OnHand, quantity = 0, price = 0;
-    std::string purchase;
+    double running = line.OnHand;
+    Draw draw;
     ado::Recordset drawn, ledger;
     step.Step([&] {
         drawn.Open("Select * from PersediaanJual Where NoInvoice ='" + line.NoInvoice + "' and KodeBrg ='" +
@@ -126,33 +139,31 @@ void RestoreLots(Guard& step, ado::Connection& connection, const RestoredLine& l
 
     if (!drawn.IsOpen()) return;
     ForEachRow(step, drawn, [&] {
-        step.Step([&] { quantity = Amount(drawn, "Qty"); });
-        step.Step([&] { purchase = TextOf(drawn, "NoPO"); });
-        step.Step([&] { price = Amount(drawn, "Harga"); });
-        running += quantity;
+        draw.Read(step, drawn);
+        running += draw.quantity;
         AddMovement(step, ledger,
                     {.NoJurnal = movement::SaleDeleted,
                      .NoRef = line.NoInvoice,
                      .Tanggal = line.Tanggal,
                      .Memo = line.Memo,
                      .goods = GoodsOf(step, line.KodeBrg, product),
-                     .Qty1 = quantity,
-                     .Harga1 = price,
+                     .Qty1 = draw.quantity,
+                     .Harga1 = draw.price,
                      .Saldo = running});
         ado::Recordset lot, entry;
         step.Step([&] {
-            lot.Open("Select * from FakturDetail Where NoFaktur='" + purchase + "' and KodeBrg ='" +
+            lot.Open("Select * from FakturDetail Where NoFaktur='" + draw.purchase + "' and KodeBrg ='" +
                          line.KodeBrg + "'",
                      connection);
         });
-        Raise(step, lot, "QtySisa", quantity);
+        Raise(step, lot, "QtySisa", draw.quantity);
         // The lot's own row this time, where the sale lowered the product's first open one.
         step.Step([&] {
             entry.Open("Select * from Persediaan Where KodeBrg = '" + line.KodeBrg +
-                           "' and NoJurnal='11' and NoRef = '" + purchase + "'",
+                           "' and NoJurnal='11' and NoRef = '" + draw.purchase + "'",
                        connection);
         });
-        Raise(step, entry, "QtySisa", quantity);
+        Raise(step, entry, "QtySisa", draw.quantity);
         step.Step([&] { drawn.Delete(); });
         return true;
     });
@@ -160,8 +171,7 @@ void RestoreLots(Guard& step, ado::Connection& connection, const RestoredLine& l
 
 double ReturnLots(Guard& step, ado::Connection& connection, const ReturnLine& line, ado::Recordset& product) {
     double wanted = line.Qty * line.Qty2, cost = 0, running = line.OnHand;
-    double sold = 0, price = 0;
-    std::string purchase;
+    Draw draw;
     ado::Recordset drawn, ledger;
     step.Step([&] {
         drawn.Open("Select * From PersediaanJual  Where  NoInvoice ='" + line.NoInvoice + "' and KodeBrg ='" +
@@ -173,17 +183,14 @@ double ReturnLots(Guard& step, ado::Connection& connection, const ReturnLine& li
     if (!drawn.IsOpen()) return cost;
     ForEachRow(step, drawn, [&] {
         if (wanted <= Dust) return false;
-        step.Step([&] { sold = Amount(drawn, "Qty"); });
-        step.Step([&] { price = Amount(drawn, "Harga"); });
-        step.Step([&] { purchase = TextOf(drawn, "NoPO"); });
-        // Rows that earlier returns emptied stay, and have nothing to give back.
-        if (sold <= 0) return true;
-        const double given = std::min(sold, wanted);
+        draw.Read(step, drawn);
+        // A row that an earlier return emptied stays: it gives back nothing, and that is written down too.
+        const double given = std::min(draw.quantity, wanted);
         wanted -= given;
         running += given;
         step.Step([&] {
             connection.Execute("Update FakturDetail Set QtySisa =QtySisa + " + SqlNumber(given) +
-                               " Where (NoFaktur='" + purchase + "')  and (KodeBrg = '" + line.KodeBrg +
+                               " Where (NoFaktur='" + draw.purchase + "')  and (KodeBrg = '" + line.KodeBrg +
                                "')");
         });
         step.Step([&] {
@@ -198,10 +205,10 @@ double ReturnLots(Guard& step, ado::Connection& connection, const ReturnLine& li
         step.AddRow(returned, {{"ReturID", line.ReturID},
                                {"Tanggal", line.Tanggal},
                                {"NoInvoice", line.NoInvoice},
-                               {"NoPO", purchase},
+                               {"NoPO", draw.purchase},
                                {"KodeBrg", line.KodeBrg},
                                {"Qty", given},
-                               {"Harga", price}});
+                               {"Harga", draw.price}});
         // On the side of goods out, with a negative quantity: the stock reports sum it so.
         Goods goods = GoodsOf(step, line.KodeBrg, product);
         goods.NamaBrg = line.NamaBrg;
@@ -212,10 +219,10 @@ double ReturnLots(Guard& step, ado::Connection& connection, const ReturnLine& li
                      .Memo = "Sales Returns No " + line.ReturID,
                      .goods = goods,
                      .Qty2 = -given,
-                     .Harga2 = price,
+                     .Harga2 = draw.price,
                      .Saldo = running});
-        cost += given * price;
-        step.PutRow(drawn, {{"Qty", sold - given}});
+        cost += given * draw.price;
+        step.PutRow(drawn, {{"Qty", draw.quantity - given}});
         return true;
     });
     return cost;
@@ -223,8 +230,9 @@ double ReturnLots(Guard& step, ado::Connection& connection, const ReturnLine& li
 
 void ReverseReturnLots(Guard& step, ado::Connection& connection, const ReversedReturnLine& line,
                        ado::Recordset& product) {
-    double running = line.OnHand, quantity = 0, price = 0;
-    std::string purchase, code;
+    double running = line.OnHand;
+    Draw draw;
+    std::string code;
     ado::Recordset returned, ledger;
     step.Step([&] {
         returned.Open("Select * From PersediaanRetur  Where  ReturID='" + line.ReturID + "'", connection);
@@ -235,37 +243,35 @@ void ReverseReturnLots(Guard& step, ado::Connection& connection, const ReversedR
     ForEachRow(step, returned, [&] {
         step.Step([&] { code = TextOf(returned, "KodeBrg"); });
         if (!EqualsNoCase(code, line.KodeBrg)) return true; // another line's goods
-        step.Step([&] { quantity = Amount(returned, "Qty"); });
-        step.Step([&] { price = Amount(returned, "Harga"); });
-        step.Step([&] { purchase = TextOf(returned, "NoPO"); });
-        running -= quantity;
+        draw.Read(step, returned);
+        running -= draw.quantity;
         ado::Recordset drawn, lot, sold;
         step.Step([&] {
             drawn.Open("Select * From PersediaanJual  Where  NoInvoice ='" + line.NoInvoice +
-                           "' and KodeBrg ='" + line.KodeBrg + "' and  NoPo ='" + purchase + "'",
+                           "' and KodeBrg ='" + line.KodeBrg + "' and  NoPo ='" + draw.purchase + "'",
                        connection);
         });
-        Raise(step, drawn, "Qty", quantity);
+        Raise(step, drawn, "Qty", draw.quantity);
         step.Step([&] {
-            lot.Open("Select * From FakturDetail  Where  NoFaktur='" + purchase + "' and KodeBrg = '" +
+            lot.Open("Select * From FakturDetail  Where  NoFaktur='" + draw.purchase + "' and KodeBrg = '" +
                          line.KodeBrg + "'",
                      connection);
         });
-        Raise(step, lot, "QtySisa", -quantity);
+        Raise(step, lot, "QtySisa", -draw.quantity);
         step.Step([&] {
             sold.Open("Select * From InvoiceDetail Where  NoInvoice='" + line.NoInvoice +
                           "'  and KodeBrg = '" + line.KodeBrg + "'",
                       connection);
         });
-        Raise(step, sold, "QtyOrder", -quantity); // not QtyRetur, which the return raised
+        Raise(step, sold, "QtyOrder", -draw.quantity); // not QtyRetur, which the return raised
         AddMovement(step, ledger,
                     {.NoJurnal = movement::SaleReturnDeleted,
                      .NoRef = line.ReturID,
                      .Tanggal = line.Tanggal,
                      .Memo = line.Memo,
                      .goods = GoodsOf(step, line.KodeBrg, product),
-                     .Qty2 = quantity,
-                     .Harga2 = price,
+                     .Qty2 = draw.quantity,
+                     .Harga2 = draw.price,
                      .Saldo = running});
         step.Step([&] { returned.Delete(); });
         return true;
