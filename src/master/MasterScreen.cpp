@@ -39,6 +39,7 @@ void MasterScreen::Load() {
         if (!row_.main.empty()) main_.Open(row_.main, connection_);
     });
     FillLists();
+    ClearFields();
     SetLocked(true);
     FillSearchGrid();
 }
@@ -209,6 +210,22 @@ bool MasterScreen::FindInMain(const std::string& code) {
     return found;
 }
 
+void MasterScreen::AddToMain(const std::vector<Cell>& cells) {
+    Resume([&] {
+        main_.AddNew();
+        ChangeInMain(cells);
+    });
+}
+
+void MasterScreen::ChangeInMain(const std::vector<Cell>& cells) {
+    const bool saved = Resume([&] {
+        for (const Cell& cell : cells) main_[cell.column] = cell.value;
+        main_.Update();
+    });
+    if (!saved) Resume([this] { main_.CancelUpdate(); });
+    Resume([this] { main_.Requery(); });
+}
+
 void MasterScreen::ShowRecord(const std::string& code) {
     if (row_.clearsFirst) {
         ClearFields();
@@ -317,12 +334,12 @@ void MasterScreen::MoveRecord(Move move) {
 
 void MasterScreen::LeaveCode() {
     const std::string position = CurrentCode();
-    const std::string code = Code();
+    const std::string code = Trim(Code());
     if (!LookUp(row_.select.empty() ? Lookup::Find : Lookup::Statement, code)) {
         GoBackTo(position);
         if (row_.unknownCodeClears) {
             ClearFields();
-            code_->SetText(Trim(code));
+            code_->SetText(code);
         }
     } else {
         ShowRecord(code);
@@ -373,6 +390,15 @@ std::string MasterScreen::ProposedCode() {
     return NextCode(row_.nextCode, highest, Sess().NoUser, services_.regional);
 }
 
+// Types are typed in one go: Enter in the last field saves and starts the next record.
+void MasterScreen::SaveAndAddNext(forms::Key& key) {
+    if (!key.Is(forms::KeyCode::Enter) || !buttons_->bttnOK.Enabled()) return;
+    key.handled = true;
+    Save();
+    Cancel();
+    Add();
+}
+
 void MasterScreen::Capitals(forms::TextControl& field) {
     field.onKeyPress = [](forms::KeyPress& press) { press.ToUpper(); };
 }
@@ -388,6 +414,14 @@ void MasterScreen::TabAndSelect(forms::TextControl& field) {
 
 void MasterScreen::Reformats(forms::TextControl& field) {
     if (Numeric(field.Text())) field.SetText(Masked(Number(field)));
+}
+
+void MasterScreen::TakesShort(forms::TextControl& field, std::string_view message) {
+    field.onLeave = [this, &field, message] {
+        if (Numeric(field.Text()) && FitsShort(Number(field))) return;
+        Say(std::string(message));
+        SetFocus(field);
+    };
 }
 
 void MasterScreen::AsksToSave(forms::TextControl& lastField, std::string_view title, bool whileEditingAlone) {

@@ -76,6 +76,13 @@ protected:
     std::string Amount(const forms::TextControl& field) const { return SqlNumber(Number(field)); }
     void Execute(const std::string& sql) { connection_.Execute(sql); }
     bool FindInMain(const std::string& code); // reads the table anew first
+    // Through the main recordset: a new row, or the row that the save has found.
+    struct Cell {
+        const char* column;
+        Value value;
+    };
+    void AddToMain(const std::vector<Cell>& cells);
+    void ChangeInMain(const std::vector<Cell>& cells);
     // The items of a drop-down, one for each row; failures leave it empty.
     template <typename Text>
     std::vector<std::string> Items(std::string_view statement, Text text) {
@@ -92,6 +99,9 @@ protected:
     static void Capitals(forms::TextControl& field);
     void TabAndSelect(forms::TextControl& field); // Enter also selects the next field's whole text
     void Reformats(forms::TextControl& field);    // a numeric text on leaving, as "#,##0"
+    // A text that is no 16-bit number calls the focus back with this message.
+    void TakesShort(forms::TextControl& field, std::string_view message);
+    void SaveAndAddNext(forms::Key& key);
     void AsksToSave(forms::TextControl& lastField, std::string_view title, bool whileEditingAlone);
 
     Mode mode_ = Idle;

@@ -12,13 +12,18 @@ namespace varnik {
 namespace {
 
 std::optional<int> Incremented(double number) {
-    using Short = std::numeric_limits<std::int16_t>;
-    const double whole = std::nearbyint(number); // half to even
-    if (whole < Short::min() || whole + 1 > Short::max()) return std::nullopt;
-    return static_cast<int>(whole) + 1;
+    const double next = std::nearbyint(number) + 1;
+    if (!FitsShort(number) || !FitsShort(next)) return std::nullopt;
+    return static_cast<int>(next);
 }
 
 } // namespace
+
+bool FitsShort(double number) {
+    using Short = std::numeric_limits<std::int16_t>;
+    const double whole = std::nearbyint(number);
+    return whole >= Short::min() && whole <= Short::max();
+}
 
 std::string NextCode(const NextCodeRow& row, const Value& highest, std::string_view noUser,
                      const Regional& regional) {

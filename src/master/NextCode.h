@@ -10,6 +10,8 @@
 
 namespace varnik {
 
+bool FitsShort(double number); // rounded to a whole number, half to even, it fits 16 bits
+
 // `highest` is the table's Max over its codes, which orders texts. The number is counted in 16 bits, as
 // wanted: from 32767 on it overflows and zeros alone are proposed. So it is for a text that is no number
 // where the row does not read that as 0.

@@ -43,6 +43,37 @@ const std::vector<Case> Cases = {
 0000000002|Pasir beton|002|M3|17.5|200000|Bahan
 )"},
     {"persediaan-empty", "persediaan.rpt", {}, "KodeBrg|NamaBrg|JenisBrg|OnHand#"},
+    {"Customer",
+     "Customer.rpt",
+     {},
+     R"(KodeCus|NamaCus|Alamat_1|Alamat_2|Alamat_3|Kota|Telp|SaldoAwal#|SaldoAkhir#
+0000000001|CV Bangun Persada|Jl. Asia Afrika 5|Blok C||Bandung|022 555 0101|0|1360000
+0000000002|Toko Sinar|Jl. Braga 9|||Bandung||250000|-12500
+)"},
+    {"Supplier",
+     "Supplier.rpt",
+     {},
+     R"(KodeSup|NamaSup|Alamat_1|Alamat_2|Alamat_3|Kota|Telp|Fax|Contax|Jabatan|nDis#|nwDis#|nJTP#
+0000000002|PT Baja Ringan|Kawasan Industri 3|||Cikarang|021 555 0303|021 555 0304|Ibu Rina|Sales|0|0|30
+0000000001|Semen Jaya|Jl. Pabrik 1|||Bogor|0251 555 01||Pak Tono|Manager|0|0|14
+)"},
+    {"bank",
+     "bank.rpt",
+     {},
+     R"(RekID|NamaBank|NoRek|SaldoAwal#|SaldoAkhir#
+001|Kas Kecil||500000|375000
+002|Bank Nusa|123-456|10000000|11360000
+)"},
+    {"JenisProduk", "JenisProduk.rpt", {}, "KodeJenisProduk|JenisProduk\n001|Jasa\n002|Bahan"},
+    {"JenisCustomer", "JenisCustomer.rpt", {}, "KodeJenisCus|JenisCus\n001|Eceran\n002|Proyek"},
+    {"JenisBiaya", "JenisBiaya.rpt", {}, "KodeJenisBiaya|JenisBiaya\n001|Gaji\n002|Listrik dan air"},
+    {"DetailBiaya",
+     "DetailBiaya.rpt",
+     {},
+     R"(KodeBiaya|Diskripsi|KodejenisBiaya|JenisBiaya|KodeAcc|NamaAcc
+0000000001|Gaji harian tukang|001|Gaji||
+0000000002|Rekening listrik gudang|002|Listrik dan air|510|
+)"},
 };
 
 std::string Printed(const Case& test) {
