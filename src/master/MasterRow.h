@@ -46,19 +46,24 @@ struct SearchClause {
     bool number = false; // the value as a number, without "%"
 };
 
+struct ListColumn {
+    std::string_view caption;
+    int width = 12; // characters
+};
+
 struct SearchRow {
     std::string_view select;
     std::span<const std::string_view> criteria;
     std::span<const SearchClause> clauses; // the last one has no literal
     std::string_view order;
-    std::span<const std::string_view> columns; // captions
-    int amount = -1;                           // the column shown as "#,##0"
-    bool activationTakes = false;              // activating a row does what cmdTutup does
+    std::span<const ListColumn> columns;
+    int amount = -1;              // the column shown as "#,##0"
+    bool activationTakes = false; // activating a row does what cmdTutup does
 };
 
 struct ListRow {
     std::string_view statement;
-    std::span<const std::string_view> columns;
+    std::span<const ListColumn> columns;
     bool repeatsBlank = false; // a row with the code of the row before shows blank
     int activated = -1;        // the column that goes into the code box, -1 when activating does nothing
 };

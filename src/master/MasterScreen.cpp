@@ -438,9 +438,9 @@ void MasterScreen::Has(MasterSearch& search) {
     search_ = &search;
     search.SetUp(*row_.search);
     std::vector<forms::GridColumn> columns;
-    for (int i = 0; std::string_view caption : row_.search->columns)
-        columns.push_back(
-            {std::string(caption), i++ == row_.search->amount ? forms::Align::Right : forms::Align::Left});
+    for (int i = 0; const auto& [caption, width] : row_.search->columns)
+        columns.push_back({std::string(caption),
+                           i++ == row_.search->amount ? forms::Align::Right : forms::Align::Left, width});
     search.grdCari.SetColumns(std::move(columns));
     search.cmdExecute.onClick = [this] { ExecuteSearch(); };
     search.cmdTutup.onClick = [this] { TakeFromSearch(); };
@@ -471,7 +471,8 @@ void MasterScreen::TakeFromSearch() {
 void MasterScreen::Has(MasterList& list) {
     list_ = &list;
     std::vector<forms::GridColumn> columns;
-    for (std::string_view caption : row_.list->columns) columns.push_back({std::string(caption)});
+    for (const auto& [caption, width] : row_.list->columns)
+        columns.push_back({std::string(caption), forms::Align::Left, width});
     list.grdCari.SetColumns(std::move(columns));
     if (row_.list->activated < 0) return;
     list.grdCari.onActivate = [this] {

@@ -6,7 +6,7 @@ namespace varnik {
 
 namespace {
 
-constexpr std::string_view columns[] = {"Code", "Product Category"};
+constexpr ListColumn columns[] = {{"Code", 12}, {"Product Category", 40}};
 constexpr ListRow listRow{.statement = "Select KodeJenisProduk, JenisProduk From QryJenisProduk "
                                        "Group By KodeJenisProduk, JenisProduk",
                           .columns = columns,

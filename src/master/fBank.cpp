@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::string_view criteria[] = {"Code"};
 constexpr SearchClause clauses[] = {{"CODE", " Where RekID Like '%"}, {"", " Where NamaBank Like '%"}};
-constexpr std::string_view searchColumns[] = {"RekId", "NamaBank", "NoRek", "SaldoAkhir"};
+constexpr ListColumn searchColumns[] = {{"RekId", 8}, {"NamaBank", 32}, {"NoRek", 20}, {"SaldoAkhir", 16}};
 constexpr SearchRow searchRow{.select = "Select RekId,NamaBank,NoRek,SaldoAkhir From Bank ",
                               .criteria = criteria,
                               .clauses = clauses,

@@ -4,7 +4,7 @@ namespace varnik {
 
 namespace {
 
-constexpr std::string_view columns[] = {"Category", "Cost Category", "Code", "Description"};
+constexpr ListColumn columns[] = {{"Category", 10}, {"Cost Category", 24}, {"Code", 14}, {"Description", 40}};
 constexpr ListRow listRow{.statement = "Select KodejenisBiaya,JenisBiaya,KodeBiaya,Diskripsi "
                                        "From QryDaftarBiaya Order By KodeBiaya",
                           .columns = columns,

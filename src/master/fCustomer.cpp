@@ -11,7 +11,7 @@ constexpr SearchClause clauses[] = {
     {"ADDRESS", " Where Alamat_1 +Alamat_2+Alamat_3+Kota  Like '%"},
     {"", " Where SaldoAkhir = ", true},
 };
-constexpr std::string_view searchColumns[] = {"Code", "Name", "Address", "Balance"};
+constexpr ListColumn searchColumns[] = {{"Code", 12}, {"Name", 28}, {"Address", 36}, {"Balance", 16}};
 constexpr SearchRow searchRow{
     .select = "Select KodeCus,NamaCus,Alamat_1 + ' '+ Alamat_2 as Alamat ,SaldoAkhir From Customer",
     .criteria = criteria,

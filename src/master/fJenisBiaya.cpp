@@ -4,7 +4,7 @@ namespace varnik {
 
 namespace {
 
-constexpr std::string_view columns[] = {"Code", "Cost Category"};
+constexpr ListColumn columns[] = {{"Code", 12}, {"Cost Category", 40}};
 constexpr ListRow listRow{.statement = "Select KodeJenisBiaya,JenisBiaya From QryDaftarJenisBiaya "
                                        "Order By KodeJenisBiaya",
                           .columns = columns,

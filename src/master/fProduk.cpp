@@ -7,7 +7,7 @@ namespace {
 constexpr std::string_view criteria[] = {"Code", "Product Description"};
 // The typed criterion is compared in capitals, so the first clause is never met: the description is searched.
 constexpr SearchClause clauses[] = {{"Code", " Where KodeBrg Like '%"}, {"", " Where  NamaBrg Like '%"}};
-constexpr std::string_view searchColumns[] = {"Code", "Product Description", "Qty", "Unit"};
+constexpr ListColumn searchColumns[] = {{"Code", 12}, {"Product Description", 40}, {"Qty", 12}, {"Unit", 12}};
 constexpr SearchRow searchRow{.select = "Select KodeBrg,NamaBrg,Onhand,Satuan From Produk ",
                               .criteria = criteria,
                               .clauses = clauses,

@@ -23,12 +23,12 @@ public:
     forms::ComboBox TxtSatuanJual{*this, "TxtSatuanJual", "Selling Unit (SU)"};
     forms::TextBox TxtPecahanJual{*this, "TxtPecahanJual", "Qty Per SU"};
     forms::TextBox TxtHargaJual{*this, "TxtHargaJual", "Selling Price"};
+    forms::TextBox TxtHPPRata{*this, "TxtHPPRata", "Item Price"};
     forms::TextBox txtQCounter{*this, "txtQCounter", "Q. Counter"};
     forms::TextBox TxtQGudang{*this, "TxtQGudang", "Q. Gudang"};
     forms::TextBox TxtOnHand{*this, "TxtOnHand", "Q. On Hand"};
     forms::TextBox TxtQAwal{*this, "TxtQAwal", "Opening Balance"};
     forms::TextBox txtOnOrder{*this, "txtOnOrder"};
-    forms::TextBox TxtHPPRata{*this, "TxtHPPRata", "Item Price"};
     forms::ComboBox TxtKodeSup{*this, "TxtKodeSup", "Supplier ID"};
     forms::TextBox txtKodeRef{*this, "txtKodeRef", "Supplier Reference"};
     forms::TextBox txtket{*this, "txtket", "Notes"};

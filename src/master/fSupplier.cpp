@@ -13,7 +13,8 @@ constexpr SearchClause clauses[] = {
     {"Name", " Where NamaSup Like '%"},
     {"", " Where Alamat_1 +Alamat_2+Alamat_3+Kota  Like '%"},
 };
-constexpr std::string_view searchColumns[] = {"Code", "Supplier name", "Address", "Final Balance"};
+constexpr ListColumn searchColumns[] = {
+    {"Code", 12}, {"Supplier name", 28}, {"Address", 36}, {"Final Balance", 16}};
 constexpr SearchRow searchRow{
     .select = "Select KodeSup,NamaSup,Alamat_1 + ' '+ Alamat_2 as Alamat ,SaldoAkhir From Supplier",
     .criteria = criteria,

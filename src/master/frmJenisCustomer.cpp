@@ -6,7 +6,7 @@ namespace varnik {
 
 namespace {
 
-constexpr std::string_view columns[] = {"Code", "Customer Type"};
+constexpr ListColumn columns[] = {{"Code", 12}, {"Customer Type", 40}};
 constexpr ListRow listRow{.statement = "Select KodeJenisCus, JenisCus From JenisCustomer "
                                        "Group By KodeJenisCus, JenisCus",
                           .columns = columns,

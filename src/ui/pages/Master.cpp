@@ -4,6 +4,36 @@
 
 namespace varnik::ui {
 
+namespace {
+
+// Customers and suppliers: who, where, terms and balances.
+Node Partner(Node heading, std::vector<Node> money) {
+    std::vector<std::vector<Node>> moneyRows;
+    for (Node& field : money) moneyRows.push_back({std::move(field)});
+    return Column({
+        std::move(heading),
+        Row({Card("Address", Form({{Field("txtAlamat_1")},
+                                   {Field("txtAlamat_2").Label("Address 2")},
+                                   {Field("txtAlamat_3").Label("Address 3")},
+                                   {Field("txtKota", 20)},
+                                   {Field("txtTelp", 20)},
+                                   {Field("txtFax", 20)},
+                                   {Field("txtContax", 20)},
+                                   {Field("txtJabatan", 20)}}))
+                 .Share(1),
+             Card("Terms and balance", Form(std::move(moneyRows)))}),
+    });
+}
+
+// A code and a name over the permanent list.
+Page TypePage(const char* screen, std::vector<std::vector<Node>> further = {}) {
+    std::vector<std::vector<Node>> rows{{Field("txtKode", 14)}, {Field("txtNama")}};
+    for (auto& row : further) rows.push_back(std::move(row));
+    return MasterPage(screen, Card("", Form(std::move(rows))), false);
+}
+
+} // namespace
+
 std::vector<Page> MasterPages() {
     Node product = Column({
         Card("", Form({{Field("txtKode", 14), Field("Check1")},
@@ -21,7 +51,34 @@ std::vector<Page> MasterPages() {
              Card("Supplier", Form({{Field("TxtKodeSup")}, {Field("txtKodeRef")}, {Field("txtket")}}))
                  .Share(1)}),
     });
-    return {MasterPage("fProduk", std::move(product))};
+    Node customer =
+        Partner(Card("", Form({{Field("txtKode", 14)},
+                               {Field("txtNama")},
+                               {Row({Field("TxtJenis", 5), Field("Combo1").Label("Name").Share(1)})}})),
+                {Field("txtnDis", 8).Label("Discount"), Field("txtnwDis", 8).Label("Discount Days"),
+                 Field("txtnJTP", 8), Field("TxtNPWP", 20), Field("txtSaldoAwal", 16),
+                 Field("txtSaldoAkhir", 16), Field("txtket", 24)});
+    Node supplier = Partner(Card("", Form({{Field("txtKode", 14)}, {Field("txtNama")}})),
+                            {Field("txtnDis", 8).Label("Discount"),
+                             Field("txtnwDis", 8).Label("Discount Days"), Field("txtnJTP", 8),
+                             Field("txtSaldoAwal", 16), Field("txtSaldoAkhir", 16), Field("txtket", 24)});
+    Node bank = Column({
+        Card("", Form({{Field("txtRekID", 6)},
+                       {Field("TxtNamaBank", 30)},
+                       {Field("txtNoRek", 24)},
+                       {Field("txtJenisRek", 16)},
+                       {Field("txtNamaPemilik", 30)}})),
+        Card("Balance", Form({{Field("txtSaldoAwal", 16)}, {Field("txtSaldoAkhir", 16)}})),
+        Card("Use", Form({{Field("txtket", 30)}, {Field("Check1")}})),
+    });
+    return {MasterPage("fProduk", std::move(product)),
+            MasterPage("fCustomer", std::move(customer)),
+            MasterPage("fSupplier", std::move(supplier)),
+            MasterPage("fBank", std::move(bank)),
+            TypePage("fAccJenisProduk"),
+            TypePage("frmJenisCustomer"),
+            TypePage("fJenisBiaya"),
+            TypePage("fBiaya", {{Field("TxtKodeAcc")}})};
 }
 
 } // namespace varnik::ui
