@@ -3,6 +3,9 @@
 #include "common/Text.h"
 #include "reports/engine/Layout.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace varnik::reports {
 
 namespace {
@@ -12,6 +15,19 @@ std::string Folded(std::string text) {
     for (char& letter : text)
         if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
     return text;
+}
+
+// Whether the text begins in this run; it may go on in the lines that follow in the same cell.
+bool BeginsIn(const std::vector<TextRun>& runs, std::size_t at, const std::string& wanted) {
+    std::string text = Folded(runs[at].text);
+    const std::size_t own = text.size();
+    constexpr double Touching = 0.01; // mm
+    for (std::size_t next = at + 1; next < runs.size() && text.size() < own + wanted.size(); ++next) {
+        const Area &above = runs[next - 1].area, &below = runs[next].area;
+        if (below.x != above.x || std::abs(below.y - above.y - above.height) > Touching) break;
+        text += ' ' + Folded(runs[next].text);
+    }
+    return text.find(wanted) < own;
 }
 
 } // namespace
@@ -46,7 +62,7 @@ Page Report::BuildPage(int number) const { return layout_->Build(std::clamp(numb
 
 std::optional<Hit> Report::Find(const std::string& text, std::optional<Hit> from, bool forward,
                                 const Progress& progress) const {
-    const std::string wanted = Folded(text);
+    const std::string wanted = Folded(Trim(text));
     if (wanted.empty()) return {};
     const int pages = PageCount(), step = forward ? 1 : -1;
     const Hit start = from.value_or(forward ? Hit{1, -1} : Hit{pages, 1 << 30});
@@ -61,8 +77,7 @@ std::optional<Hit> Report::Find(const std::string& text, std::optional<Hit> from
         for (int run = forward ? 0 : runs - 1; run >= 0 && run < runs; run += step) {
             const bool behind = forward ? run > start.run : run < start.run;
             if ((turn == 0 && !behind) || (turn == pages && behind)) continue;
-            if (Folded(page.runs[static_cast<std::size_t>(run)].text).find(wanted) != std::string::npos)
-                return Hit{number, run};
+            if (BeginsIn(page.runs, static_cast<std::size_t>(run), wanted)) return Hit{number, run};
         }
     }
     return {};

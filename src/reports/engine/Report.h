@@ -66,7 +66,7 @@ public:
     // The pages as fixed-width text; all pages are parted by a form feed.
     std::string Text() const;
     std::string Text(int page) const;
-    // The next (or previous) text run that holds the text, without regard to case, from the place after
+    // The next (or previous) text run in which the text begins, without regard to case, from the place after
     // (before) `from` on, going round the end once. Nothing when it is nowhere or the work was stopped.
     std::optional<Hit> Find(const std::string& text, std::optional<Hit> from = {}, bool forward = true,
                             const Progress& progress = {}) const;

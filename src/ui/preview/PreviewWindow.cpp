@@ -88,8 +88,9 @@ void PreviewWindow::BuildToolBar() {
     bar.setMovable(false);
     bar.setContextMenuPolicy(Qt::PreventContextMenu);
     bar.setIconSize(QSize(20, 20));
-    bar.setStyleSheet("QToolBar { border: none; border-bottom: 1px solid palette(mid); padding: 4px 6px; "
-                      "spacing: 3px; } QToolButton { padding: 4px 6px; }");
+    bar.setStyleSheet(
+        "QToolBar { border: none; border-bottom: 1px solid rgba(128, 128, 128, 90); padding: 4px 6px; "
+        "spacing: 3px; } QToolButton { padding: 4px 6px; }");
     AddAction(
         bar, PreviewIcon::Print, "Print", "Print the report", {QKeySequence::Print}, [this] { Print(); },
         true);

@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPrinter>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -133,6 +134,24 @@ TEST_F(Preview, WritesAPdfWholeOrNotAtAll) {
     EXPECT_TRUE(WritePdf(*report, file));
     EXPECT_EQ(FileText(file).substr(0, 5), "%PDF-");
     EXPECT_THROW(WritePdf(*report, folder.filePath("no/such/folder.pdf").toStdString()), ado::DataError);
+}
+
+TEST_F(Preview, PrintsTheAskedPagesAndStops) {
+    const QTemporaryDir folder;
+    const auto report = ManyProducts(400);
+    QPrinter printer(QPrinter::HighResolution);
+    SetUpPaper(*report, printer);
+    printer.setOutputFileName(folder.filePath("printed.pdf"));
+    printer.setFromTo(2, 4);
+    std::vector<long> done;
+    EXPECT_TRUE(PrintReport(*report, printer, [&](long part, long total) {
+        EXPECT_EQ(total, 3);
+        done.push_back(part);
+        return true;
+    }));
+    EXPECT_EQ(done, (std::vector<long>{0, 1, 2}));
+    EXPECT_GT(std::filesystem::file_size(folder.filePath("printed.pdf").toStdString()), 1000u);
+    EXPECT_FALSE(PrintReport(*report, printer, [](long part, long) { return part < 1; }));
 }
 
 // Ink may not reach beyond the box of a text, whatever the font: figures would run into each other.

@@ -179,3 +179,20 @@ TEST(Paging, FindGoesThroughAllPagesBothWays) {
     EXPECT_FALSE(report.Find("nowhere"));
     EXPECT_FALSE(report.Find(RowName(299), {}, true, [](long, long) { return false; })) << "stopped";
 }
+
+TEST(Paging, FindSeesATextThatGoesOnInTheNextLine) {
+    const std::string name =
+        "Pasir beton dari Cimalaka, dicuci dan disaring, diantar sampai ke tempat pembangunan";
+    const Report report(LoadDefinition("Report", "Invoice.rpt"),
+                        RowsOf("KodeBrg|NamaBrg|Qty#|Harga#\nB1|" + name + "|1|2\nB2|Semen|1|2"), FactsOf());
+    const Page page = report.BuildPage(1);
+    for (std::size_t begin = 0; begin + 20 < name.size(); ++begin) {
+        const std::string piece = Trim(name.substr(begin, 20));
+        const auto hit = report.Find(piece);
+        ASSERT_TRUE(hit) << piece;
+        const std::string& line = page.runs[static_cast<std::size_t>(hit->run)].text;
+        EXPECT_NE(name.find(line), std::string::npos) << "it begins in a line of the name: " << line;
+    }
+    EXPECT_FALSE(report.Find("Semen pembangunan"));
+    EXPECT_FALSE(report.Find("pembangunan B2"));
+}
