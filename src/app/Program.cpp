@@ -2,6 +2,7 @@
 
 #include "data/DataSource.h"
 #include "master/Master.h"
+#include "purchases/Purchases.h"
 #include "sales/Sales.h"
 #include "shell/Main.h"
 
@@ -15,6 +16,7 @@ Program::Program(Desktop& desktop, const Regional& machine)
     RegisterShell(services_);
     RegisterMaster(services_);
     RegisterSales(services_);
+    RegisterPurchases(services_);
 }
 
 void Program::Start() { Main(services_); }

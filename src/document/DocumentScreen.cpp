@@ -44,7 +44,7 @@ void DocumentScreen::Save() {
     bttnSave.SetEnabled(false);
     if (Mode() == EntryMode::New)
         Post();
-    else {
+    else if (ReverseConfirmed()) {
         Reverse();
         bttnSave.SetCaption("&Save");
     }
@@ -85,6 +85,45 @@ void DocumentScreen::PreviewKeyDown(forms::Key& key) {
             return SetFocus(**at);
         }
     }
+}
+
+bool DocumentScreen::AsksForList(const forms::Key& key, const forms::TextBox& field) const {
+    return Focused() == &field &&
+           (key.Is(forms::KeyCode::F5) || (key.Is(forms::KeyCode::Enter) && Trim(field.Text()).empty()));
+}
+
+void DocumentScreen::OpenList(LookupList& list, const std::string& sql, forms::TextBox& field,
+                              std::function<void()> picked) {
+    ado::Recordset rows;
+    Found(rows, sql);
+    list.Open(rows.IsOpen() ? CodesAndNames(rows, services_.regional) : std::vector<std::string>{}, field,
+              [&field, picked](const std::string& code) {
+                  field.SetText(code);
+                  picked();
+              });
+}
+
+void DocumentScreen::ShowLines(Guard& step, OrderLines& grid, ado::Recordset& lines, const char* name,
+                               std::string_view quantityMask) {
+    const auto amount = [&](const char* column) { return NullToNumber(lines[column], services_.regional); };
+    while (!lines.Eof()) {
+        step.Step([&] {
+            grid.Write(grid.LastRow(),
+                       {TextOf(lines["KodeBrg"]), TextOf(lines[name]), Masked(amount("Qty"), quantityMask),
+                        TextOf(lines["Satuan"]), Masked(amount("Harga")),
+                        Masked(amount("Harga") * amount("Qty")), Masked(amount("Disc")),
+                        Masked(amount("Total")), Masked(amount("Qty2"))});
+        });
+        step.Step([&] { lines.MoveNext(); });
+        // Wanted: no empty row follows the last line of a loaded document.
+        if (!lines.Eof()) grid.Grow();
+    }
+}
+
+ReportRequest DocumentScreen::ReportOf(const std::string& file) const {
+    ReportRequest request;
+    request.ReportFileName = Desk().ProgramFolder().string() + "\\Report" + file;
+    return request;
 }
 
 bool DocumentScreen::Found(ado::Recordset& rows, const std::string& sql) {

@@ -4,6 +4,8 @@
 // delete. Two rows of buttons take turns: FrameBawah while browsing, FrameAtas (Save and Cancel) while
 // something is being entered. What the buttons do beyond that is the screen's own.
 
+#include "document/LookupList.h"
+#include "document/OrderLines.h"
 #include "platform/desktop/Failure.h"
 #include "platform/desktop/ProgramScreen.h"
 
@@ -38,6 +40,7 @@ protected:
     virtual void Print() = 0;
     // Save: the tests (a message and false stop it), then one of the two routines that write, then the end.
     virtual bool TestsPassed() = 0;
+    virtual bool ReverseConfirmed() { return true; } // false leaves the document and ends the entry
     virtual void Post() = 0;
     virtual void Reverse() = 0;
     virtual void EntryEnded() = 0;
@@ -52,6 +55,18 @@ protected:
     static void TypesCapitals(std::initializer_list<forms::Control*> fields);
     // F2 moves from each of these fields to the one before it.
     void MovesBackAlong(std::vector<forms::Control*> fields);
+
+    // Whether the key asks for the list behind the code field that has the focus: F5, or Enter on it empty.
+    bool AsksForList(const forms::Key& key, const forms::TextBox& field) const;
+    // Lists the first two columns of a statement for a code field; a pick writes the code and goes on.
+    void OpenList(LookupList& list, const std::string& sql, forms::TextBox& field,
+                  std::function<void()> picked);
+    // The saved lines of a document of goods in the grid, an empty row between each and the next. `name` is
+    // the column of the description.
+    void ShowLines(Guard& step, OrderLines& grid, ado::Recordset& lines, const char* name,
+                   std::string_view quantityMask = "#,##0");
+    // A request for one of the printed documents in the folder of reports ("\\Invoice.rpt").
+    ReportRequest ReportOf(const std::string& file) const;
 
     // The connection of the screen's life: look-ups and lists.
     ado::Connection& Data() { return connection_; }

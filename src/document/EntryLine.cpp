@@ -1,5 +1,6 @@
 #include "document/EntryLine.h"
 
+#include "common/Numbers.h"
 #include "common/Text.h"
 
 namespace varnik::document {
@@ -11,7 +12,7 @@ EntryLine::EntryLine(forms::Screen& screen, const EntryLineNames& names)
       txtQty(screen, "txtQty", "Qty"),
       TxtSatuan(screen, "TxtSatuan", "Unit"),
       txtHarga(screen, "txtHarga", "Unit Price"),
-      TxtBru(screen, "TxtBru", "Brutto"),
+      TxtBru(screen, "TxtBru", std::string(names.gross)),
       TxtDis(screen, "TxtDis", std::string(names.discount)),
       TxtHrgTot(screen, "TxtHrgTot", "Netto"),
       Check2(screen, "Check2", "&Service"),
@@ -41,6 +42,16 @@ void EntryLine::ClearLine() {
          std::initializer_list<forms::TextControl*>{&txtKodeBrg, &TxtDiskripsi, &TxtSatuan})
         text->SetText("");
     for (forms::TextBox* amount : {&txtQty, &txtHarga, &TxtBru, &TxtDis, &TxtHrgTot}) amount->SetText("0");
+}
+
+void LineUnits::Read(ado::Recordset& product, const std::string& first, const std::string& third,
+                     const Regional& regional) {
+    const auto text = [&](const std::string& column) { return NullToText(product[column], regional); };
+    const auto number = [&](const std::string& column) { return NullToNumber(product[column], regional); };
+    Set(1, text("Satuan" + first), number("Pecahan" + first), number("Harga" + first));
+    Set(2, text("Satuan"), number("Pecahan"), 0);
+    Set(3, text("Satuan" + third), number("Pecahan" + third), number("Harga" + third));
+    Fold();
 }
 
 void LineUnits::Set(int index, std::string name, double pecahan, double price) {

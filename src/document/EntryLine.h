@@ -2,6 +2,7 @@
 // The entry line of a document of goods: code, description, quantity in a unit, price, discount, and the
 // units that its product offers. It shows only while a line is being entered.
 
+#include "platform/ado/Ado.h"
 #include "platform/forms/Controls.h"
 
 #include <array>
@@ -13,6 +14,7 @@ namespace varnik::document {
 // What tells the entry lines of the screens apart.
 struct EntryLineNames {
     std::string_view code = "Product ID";
+    std::string_view gross = "Brutto";
     std::string_view discount = "Disc (Rp)";
     std::string_view cancelButton = "cmdBatalLine";
     std::string_view searchButton = "bttnSearch";
@@ -36,6 +38,10 @@ struct EntryLine {
 
 // The three units of the product on the entry line, counted from 1: what the line may be sold or bought in.
 struct LineUnits {
+    // The unit that the document trades in ("Jual" or "Beli"), the stock unit without a price, and the other
+    // one; then the offer is folded.
+    void Read(ado::Recordset& product, const std::string& first, const std::string& third,
+              const Regional& regional);
     std::array<std::string, 4> UnitName;
     std::array<double, 4> UnitPecahan{}, UnitPrice{}; // base units in one unit, price of one unit
     int UnitCount = 0;

@@ -28,6 +28,13 @@ void OrderLines::Write(int row, const std::vector<std::string>& cells) {
 
 void OrderLines::WriteHeadings(const std::vector<std::string>& headings) { Write(0, headings); }
 
+std::vector<int> OrderLines::RowsOf(std::string_view code) const {
+    std::vector<int> found;
+    for (int row = 1; row < Rows(); ++row)
+        if (IsFilled(row) && Upper(Trim(Cell(row, 0))) == Upper(Trim(code))) found.push_back(row);
+    return found;
+}
+
 bool OrderLines::IsFilled(int row) const { return row > 0 && !Trim(Cell(row, 0)).empty(); }
 
 } // namespace varnik::document

@@ -29,6 +29,8 @@ public:
     void Write(int row, const std::vector<std::string>& cells);
     void WriteHeadings(const std::vector<std::string>& headings);
     bool IsFilled(int row) const; // a row that holds a code
+    // The filled rows of a code, compared without regard to case and outer blanks.
+    std::vector<int> RowsOf(std::string_view code) const;
 
 private:
     std::vector<std::string> emptyRow_;

@@ -48,7 +48,7 @@ std::string SearchPanel::Statement() const {
 
 void SearchPanel::Execute(ado::Connection& connection, const Regional& regional) {
     std::vector<std::string> list;
-    Resume([&] {
+    const auto search = [&] {
         ado::Recordset rows(Statement(), connection, ado::CursorType::Static);
         const int columns = static_cast<int>(layout_.columns.size());
         for (; !rows.Eof(); rows.MoveNext()) {
@@ -62,7 +62,11 @@ void SearchPanel::Execute(ado::Connection& connection, const Regional& regional)
             }
             list.push_back(std::move(line));
         }
-    });
+    };
+    if (layout_.failsAloud)
+        search();
+    else
+        Resume(search);
     grid_.SetItems(std::move(list));
 }
 

@@ -24,7 +24,8 @@ struct SearchLayout {
     std::string_view select;
     std::span<const SearchChoice> choices;
     std::vector<forms::GridColumn> columns;
-    int amounts = 0; // how many of the last columns are amounts, shown as "#,##0"
+    int amounts = 0;         // how many of the last columns are amounts, shown as "#,##0"
+    bool failsAloud = false; // a statement that fails shows its failure
 };
 
 struct SearchNames {
@@ -38,7 +39,8 @@ public:
 
     void Open();
     void Close() { frame_.SetVisible(false); }
-    // Runs the chosen search. A statement that fails (a date that is none, a quote) lists nothing.
+    // Runs the chosen search. A statement that fails (a date that is none, a quote) lists nothing, and goes
+    // to the screen's report where the layout says so.
     void Execute(ado::Connection& connection, const Regional& regional);
     // A column of the chosen row, "" when there is none.
     std::string Chosen(int column) const { return grid_.Cell(grid_.Row(), column); }

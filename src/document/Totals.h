@@ -4,6 +4,8 @@
 #include "platform/forms/Controls.h"
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 namespace varnik::document {
 
@@ -16,14 +18,21 @@ struct Sums {
 // A tax or discount as it is typed ("10") as a factor (0.1); 0 and below stay as they are.
 inline double Rate(double typed) { return typed > 0 ? typed / 100 : typed; }
 
+enum class Tax { Shown, None };
+
 struct TotalBoxes {
-    explicit TotalBoxes(forms::Screen& screen);
+    explicit TotalBoxes(forms::Screen& screen, Tax tax = Tax::Shown);
 
     // Shows the five sums; `mask` turns an amount into its text.
     void Show(const Sums& sums, const std::function<std::string(double)>& mask);
     void Clear();
 
-    forms::TextBox TxtJumBru, TxtJumDis, TxtJumNetto, TxtJumPPN, txtJumTotal;
+    forms::TextBox TxtJumBru, TxtJumDis, TxtJumNetto;
+    std::optional<forms::TextBox> TxtJumPPN; // where the document carries a tax
+    forms::TextBox txtJumTotal;
+
+private:
+    std::vector<forms::TextBox*> All();
 };
 
 // A box that shows an amount and takes no typing.

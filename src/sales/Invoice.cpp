@@ -147,11 +147,10 @@ void Invoice::PreviewKeyDown(forms::Key& key) {
         act(&Invoice::BlankRow);
     else if (at->Container() == &line_.FrameIsiBarang && key.Is(KeyCode::Escape))
         act(&Invoice::CancelLine);
-    else if (key.Is(KeyCode::F5) || (key.Is(KeyCode::Enter) && at->GetKind() == forms::Kind::TextBox &&
-                                     Trim(static_cast<forms::TextBox*>(at)->Text()).empty())) {
-        if (at == &TxtKodeCus) act(&Invoice::ListCustomers);
-        if (at == &line_.txtKodeBrg) act(&Invoice::ListProducts);
-    }
+    else if (AsksForList(key, TxtKodeCus))
+        act(&Invoice::ListCustomers);
+    else if (AsksForList(key, line_.txtKodeBrg))
+        act(&Invoice::ListProducts);
 }
 
 // ---- The buttons ----

@@ -84,7 +84,6 @@ private:
     // --- Lists ---
     void ListCustomers();
     void ListProducts();
-    void OpenList(const std::string& sql, forms::TextBox& field, std::function<void()> picked);
     void TakeFound();
 
     // --- The data ---
@@ -96,7 +95,6 @@ private:
     void DeleteLine(Guard& step, ado::Connection& connection, ado::Recordset& detail,
                     const std::string& memo);
     void ShowHeader(Guard& step, ado::Recordset& invoice);
-    void ShowLines(Guard& step, ado::Recordset& details);
 
     double Cell(int row, int column) const { return Number(OrderGrid.Cell(row, column)); }
     std::string Mask(double amount) const { return Masked(amount); }

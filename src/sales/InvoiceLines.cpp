@@ -53,13 +53,7 @@ void Invoice::ShowProduct(ado::Recordset& product) {
     }
     line_.Check2.SetChecked(Yes(product["Jasa"]));
     // Wanted: the prices of the units are kept and read by nothing. Choosing another unit changes no price.
-    const auto unit = [&](int index, const char* name, const char* pecahan, double of) {
-        units_.Set(index, TextOf(product[name]), Number(product[pecahan].Value()), of);
-    };
-    unit(1, "SatuanJual", "PecahanJual", Number(product["HargaJual"].Value()));
-    unit(2, "Satuan", "Pecahan", 0);
-    unit(3, "SatuanBeli", "PecahanBeli", Number(product["HargaBeli"].Value()));
-    units_.Fold();
+    units_.Read(product, "Jual", "Beli", services_.regional);
     line_.TxtSatuan.SetItems(units_.Offered());
     line_.TxtSatuan.SetText(TextOf(product["SatuanJual"]));
 }
@@ -161,11 +155,8 @@ void Invoice::AddLine() {
 // Whether the code stands in the grid already and is to be added to that row, which is made the current
 // one. False when the answer is No: the line stays as it was typed.
 bool Invoice::FindDoubleEntry(bool& doubleEntry) {
-    const std::string code = Upper(Trim(line_.txtKodeBrg.Text()));
     int target = 0;
-    for (int row = 1; row < OrderGrid.Rows(); ++row) {
-        // The empty row below the lines is none of them, even for a blank code.
-        if (!OrderGrid.IsFilled(row) || Upper(Trim(OrderGrid.Cell(row, 0))) != code) continue;
+    for (const int row : OrderGrid.RowsOf(line_.txtKodeBrg.Text())) {
         if (!Ask("This product always on table ," + std::string(CrLf) + "Added again?", "Double"))
             return false;
         target = row;

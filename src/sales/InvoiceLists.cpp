@@ -6,7 +6,8 @@ namespace varnik {
 
 void Invoice::ListCustomers() {
     const std::string name = Trim(TxtNamaCus.Text());
-    OpenList(name.empty() ? "SELECT KodeCus,NamaCus FROM Customer Order By KodeCus"
+    OpenList(GridCari,
+             name.empty() ? "SELECT KodeCus,NamaCus FROM Customer Order By KodeCus"
                           : "SELECT KodeCus,NamaCus FROM Customer  Where NamaCus Like '%" + name +
                                 "%' Order By KodeCus",
              TxtKodeCus, [this] { CustomerLeft(); });
@@ -15,7 +16,8 @@ void Invoice::ListCustomers() {
 void Invoice::ListProducts() {
     if (Browsing()) return;
     const std::string description = Trim(line_.TxtDiskripsi.Text());
-    OpenList(description.empty() ? "SELECT KodeBrg,NamaBrg FROM produk Order by KodeBrg "
+    OpenList(GridCari,
+             description.empty() ? "SELECT KodeBrg,NamaBrg FROM produk Order by KodeBrg "
                                  : "SELECT KodeBrg,NamaBrg FROM Produk where NamaBrg Like '%" + description +
                                        "%' Order By Kodebrg",
              line_.txtKodeBrg, [this] {
@@ -23,17 +25,6 @@ void Invoice::ListProducts() {
                  SetFocus(line_.txtQty);
                  codeHit_ = false;
              });
-}
-
-void Invoice::OpenList(const std::string& sql, forms::TextBox& field, std::function<void()> picked) {
-    ado::Recordset rows;
-    Found(rows, sql);
-    GridCari.Open(rows.IsOpen() ? document::CodesAndNames(rows, services_.regional)
-                                : std::vector<std::string>{},
-                  field, [&field, picked](const std::string& code) {
-                      field.SetText(code);
-                      picked();
-                  });
 }
 
 void Invoice::Find() { frmCari.Open(); }

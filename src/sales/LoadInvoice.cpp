@@ -31,7 +31,7 @@ void Invoice::LoadInvoice(const std::string& number) {
                              number + "'",
                          connection, ado::CursorType::Static);
         });
-        if (details.IsOpen()) ShowLines(step, details);
+        if (details.IsOpen()) ShowLines(step, OrderGrid, details, "Diskripsi");
     });
 }
 
@@ -63,28 +63,11 @@ void Invoice::ShowHeader(Guard& step, ado::Recordset& invoice) {
     step.Step([&] { TxtAlamat3.SetText(TextOf(invoice["Alamat_3"])); });
 }
 
-void Invoice::ShowLines(Guard& step, ado::Recordset& details) {
-    const auto amount = [&](const char* column) { return Number(details[column].Value()); };
-    while (!details.Eof()) {
-        step.Step([&] {
-            OrderGrid.Write(OrderGrid.LastRow(),
-                            {TextOf(details["KodeBrg"]), TextOf(details["Diskripsi"]), Mask(amount("Qty")),
-                             TextOf(details["Satuan"]), Mask(amount("Harga")),
-                             Mask(amount("Harga") * amount("Qty")), Mask(amount("Disc")),
-                             Mask(amount("Total")), Mask(amount("Qty2"))});
-        });
-        step.Step([&] { details.MoveNext(); });
-        // Wanted: no empty row follows the last line of a loaded invoice.
-        if (!details.Eof()) OrderGrid.Grow();
-    }
-}
-
 void Invoice::Print() {
     const document::Hourglass hourglass(Desk());
     bttnPrint.SetEnabled(false);
     Reported(Desk(), [&] {
-        ReportRequest request;
-        request.ReportFileName = Desk().ProgramFolder().string() + "\\Report" + "\\Invoice.rpt";
+        ReportRequest request = ReportOf("\\Invoice.rpt");
         request.SQLQuery =
             "   SELECT    QryInvoice.NoInvoice, QryInvoice.CusPO, QryInvoice.TglInvoice, QryInvoice.TglJtp, "
             "QryInvoice.Netto, QryInvoice.PPN, QryInvoice.Total, QryInvoice.Terbilang,"

@@ -72,6 +72,7 @@ void Guard::Step(const std::function<void()>& statement) {
 }
 
 Answer Guard::AskAbout(long number, const std::string& text) {
+    if (skipFailures_) return Answer::Ignore;
     Box box{.text = text, .icon = Icon::Critical, .buttons = Buttons::AbortRetryIgnore};
     if (!descriptionAlone_) box.text = prefix_ + std::to_string(number) + std::string(CrLf) + text;
     return desktop_.MessageBox(box);

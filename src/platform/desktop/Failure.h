@@ -70,13 +70,15 @@ public:
     void AddRow(ado::Recordset& rows, std::initializer_list<Cell> cells); // AddNew, the columns, Update
     // The same with the description alone in the box, where a routine shows it so.
     void ShowDescriptionAlone() { descriptionAlone_ = true; }
+    // No box at all: a failing step is passed over silently, as by Resume, and the routine goes on.
+    void SkipFailures() { skipFailures_ = true; }
 
 private:
     struct Aborted {};
     Answer AskAbout(long number, const std::string& text);
     Desktop& desktop_;
     std::string prefix_;
-    bool descriptionAlone_ = false;
+    bool descriptionAlone_ = false, skipFailures_ = false;
 };
 
 } // namespace varnik

@@ -1,0 +1,98 @@
+// The way back of a posted purchase: line by line the stock, its average cost and the open quantity of the
+// ledger are taken off again, the lot goes, and the header last. A failing statement is passed over
+// silently. Wanted: nothing asks whether the purchase was paid, returned or sold from, and prices, units and
+// the supplier's balance stay as the purchase left them.
+
+#include "purchases/Faktur.h"
+
+#include "stock/Ledger.h"
+
+namespace varnik {
+
+void Faktur::ReverseFaktur(const std::string& number) {
+    const document::Hourglass hourglass(Desk());
+    if (Trim(TxtNoFaktur.Text()).empty()) return Say("The Id should not be empty ...");
+    Guard guard(Desk(), "");
+    guard.SkipFailures();
+    guard.Run([&](Guard& step) {
+        const std::string here = " Where NoFaktur ='" + Trim(number) + "'";
+        ado::Recordset purchase, detail;
+        bool found = false;
+        step.Step([&] { purchase.Open("Select * from Faktur" + here, Data()); });
+        step.Step([&] { found = !purchase.Empty(); });
+        if (!found) return Say("Purchases id. " + number + " not found...");
+        std::string code;
+        step.Step([&] { code = TextOf(purchase["KodeSup"]); });
+        // Wanted: the stray quote and blank stay, so the statement fails and the balance keeps the purchase.
+        step.Step([&] {
+            Data().Execute("UPDATE SUPPLIER SET  SaldoAkhir = SaldoAkhir -  " +
+                           Masked(Amount(purchase, "Total")) + "' Where KodeSup = ' " + code + "'");
+        });
+        const std::string memo = "Purchases (DELETED) Po No. " + Trim(number) + " Sup. " + code + " " +
+                                 Trim(supplier_.TxtNamaSup.Text());
+        step.Step([&] { detail.Open("Select * from FakturDetail" + here, Data()); });
+        while (detail.IsOpen() && !detail.Eof()) {
+            ReverseLine(step, detail, number, memo);
+            step.Step([&] { detail.Delete(); });
+            bool moved = false;
+            step.Step([&] {
+                detail.MoveNext();
+                moved = true;
+            });
+            if (!moved) break;
+        }
+        step.Step([&] { purchase.Delete(); });
+    });
+}
+
+void Faktur::ReverseLine(Guard& step, ado::Recordset& detail, const std::string& number,
+                         const std::string& memo) {
+    purchases::PurchaseLine line;
+    step.Step([&] {
+        line = {.KodeBrg = TextOf(detail["KodeBrg"]),
+                .Diskripsi = TextOf(detail["Diskripsi"]),
+                .Satuan = TextOf(detail["satuan"]),
+                .Qty = Amount(detail, "Qty"),
+                .Qty2 = Amount(detail, "Qty2"),
+                .Total = Amount(detail, "Total")};
+    });
+    ado::Recordset product;
+    bool known = false, service = false;
+    step.Step([&] { product.Open("Select * From Produk Where KodeBrg='" + line.KodeBrg + "'", Data()); });
+    step.Step([&] { known = !product.Empty(); });
+    if (!known) return;
+
+    const auto value = [&](const char* column) { return Amount(product, column); };
+    double cost = 0, average = 0, onHand = 0;
+    const double quantity = line.Costed();
+    step.Step([&] { cost = line.Cost(); });
+    step.Step([&] {
+        if (value("OnHand") - quantity > 0)
+            average = purchases::AverageCost(value("OnHand"), value("HPPRATA"), -quantity * cost, -quantity);
+    });
+    step.Step([&] { service = Yes(product["Jasa"]); });
+    if (service) return;
+    step.PutRow(product, {{"QGudang", [&] { return value("QGudang") - line.Base(); }},
+                          {"OnHand", [&] { return value("OnHand") - line.Base(); }},
+                          {"HPPRata", average}});
+    step.Step([&] {
+        Data().Execute(" Update Persediaan Set QtySisa = QtySisa - " + SqlNumber(line.Base()) +
+                       " Where NoJurnal ='11' and NoRef  ='" + Trim(number) + "' and KodeBrg = '" +
+                       line.KodeBrg + "'");
+    });
+    Value type;
+    step.Step([&] { type = product["JenisBrg"]; });
+    step.Step([&] { onHand = value("OnHand"); });
+    // Wanted: booked on the in side as a negative quantity, on the date that the screen shows.
+    stock::AddMovement(step, ledger_,
+                       {.NoJurnal = stock::movement::PurchaseDeleted,
+                        .NoRef = TxtNoFaktur.Text(),
+                        .Tanggal = TxtTglFaktur.Date(),
+                        .Memo = memo,
+                        .goods = {line.KodeBrg, line.Diskripsi, type, line.Satuan, line.Qty2},
+                        .Qty1 = -line.Base(),
+                        .Harga1 = cost,
+                        .Saldo = onHand});
+}
+
+} // namespace varnik
