@@ -87,6 +87,23 @@ Page DocumentPage(std::string screen, DocumentParts parts) {
     return page;
 }
 
+Node GoodsEntry(std::string search, std::string cancel) {
+    return Column({
+        Row({Field("txtKodeBrg", 13).Above(), Field("TxtDiskripsi", 24).Above().Share(1),
+             Column({Heading(" "), Button(std::move(search))}), Column({Heading(" "), Field("Check2")})}),
+        Row({Field("txtQty", 7).Above(), Field("TxtSatuan", 8).Above(), Field("txtHarga", 11).Above(),
+             Field("TxtBru", 11).Above(), Field("TxtDis", 11).Above(), Field("TxtHrgTot", 11).Above(),
+             Spring()}),
+        Row({Button("bttnAddLine").Primary(), Button(std::move(cancel)), Spring()}),
+        Spring(),
+    });
+}
+
+Node AddressRest(std::string second) {
+    return Row({Field(std::move(second)).Share(1).Label("Address, second line").Bare(),
+                Field("TxtAlamat3").Share(1).Label("Address, third line").Bare()});
+}
+
 Page DialogPage(std::string screen, Node content, std::vector<std::string> buttons) {
     std::vector<Node> row{Spring()};
     for (std::size_t i = 0; i < buttons.size(); ++i) {
@@ -100,7 +117,7 @@ Page DialogPage(std::string screen, Node content, std::vector<std::string> butto
 const std::vector<Page>& AllPages() {
     static const std::vector<Page> pages = [] {
         std::vector<Page> all;
-        for (auto* folder : {ShellPages, MasterPages, SalesPages})
+        for (auto* folder : {ShellPages, MasterPages, SalesPages, PurchasesPages})
             for (Page& page : folder()) all.push_back(std::move(page));
         return all;
     }();

@@ -110,6 +110,12 @@ struct DocumentParts {
 };
 Page DocumentPage(std::string screen, DocumentParts parts);
 
+// The entry line of a document of goods, between its button for the list of products and the one that gives
+// up.
+Node GoodsEntry(std::string search, std::string cancel);
+// The second and third line of an address in one row.
+Node AddressRest(std::string second);
+
 // Content above, the finishing buttons at the lower right, the first of them primary.
 Page DialogPage(std::string screen, Node content, std::vector<std::string> buttons);
 
@@ -121,5 +127,6 @@ Overlay SearchPanelOver();
 std::vector<Page> ShellPages();
 std::vector<Page> MasterPages();
 std::vector<Page> SalesPages();
+std::vector<Page> PurchasesPages();
 
 } // namespace varnik::ui

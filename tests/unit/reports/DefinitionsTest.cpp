@@ -26,6 +26,13 @@ const std::vector<Case> Cases = {
 000000012300|PO-7|2026-11-22|2026-12-22|1236363.64|123636.36|1360000||0000000001|12|SAK|65000|780000|CV Bangun Persada|Jl. Asia Afrika 5|||Bandung|Semen Portland 40 kg|0|0000000001
 000000012300|PO-7|2026-11-22|2026-12-22|1236363.64|123636.36|1360000||0000000002|2.5|M3|250000|580000|CV Bangun Persada|Jl. Asia Afrika 5|||Bandung|Pasir beton dari Cimalaka, dicuci dan disaring, diantar sampai ke tempat pembangunan|45000|0000000001
 )"},
+    {"PO",
+     "PO.rpt",
+     {},
+     R"(NoFaktur|NoFakSup|TglFaktur@|TglJtp@|Netto#|KodeBrg|Qty#|Satuan|Harga#|Total#|NamaSup|Alamat_1|Alamat_2|Alamat_3|Kota|NamaBrg
+000000004100|INV/2026/77|2026-11-22|2026-12-22|5050000|0000000001|80|SAK|58000|4640000|PT Pabrik Semen|Jl. Raya Padalarang 100|||Padalarang|Semen Portland 40 kg
+000000004100|INV/2026/77|2026-11-22|2026-12-22|5050000|0000000002|2.5|M3|200000|410000|PT Pabrik Semen|Jl. Raya Padalarang 100|||Padalarang|Pasir beton
+)"},
     {"persediaan",
      "persediaan.rpt",
      {},

@@ -1,0 +1,41 @@
+// The documents of purchases.
+
+#include "ui/pages/Page.h"
+
+namespace varnik::ui {
+
+namespace {
+
+Node Supplier(std::string secondAddress, Node code) {
+    return Card("", Form({{std::move(code)},
+                          {Field("TxtNamaSup")},
+                          {Field("TxtAlamat1")},
+                          {AddressRest(std::move(secondAddress))},
+                          {Field("txtket")}}))
+        .Share(1);
+}
+
+Node Totals() {
+    return Card("", Form({{Field("TxtJumBru", 12), Field("TxtJumDis", 12)},
+                          {Field("TxtJumNetto", 12), Spring()},
+                          {Field("txtJumTotal", 14).Total().Label("Total").Span(2)}}));
+}
+
+const std::vector<std::string> Navigation{"bttnFirst", "bttnPrev", "bttnNext", "bttnLast"};
+
+Page FakturPage() {
+    Node header =
+        Row({Card("", Form({{Field("TxtNoFaktur", 15)},
+                            {Field("TxtTglFaktur", 15)},
+                            {Field("txtFaksup", 15)},
+                            {Field("TxtJTP", 15)}})),
+             Supplier("TxtAlamat2", Row({Field("TxtKodeSup", 15), Button("bttnSearch(0)"), Spring()}))});
+    return DocumentPage(
+        "Faktur", {std::move(header), GoodsEntry("bttnSearch(1)", "bttnBatalLine"), Totals(), Navigation});
+}
+
+} // namespace
+
+std::vector<Page> PurchasesPages() { return {FakturPage()}; }
+
+} // namespace varnik::ui
