@@ -62,6 +62,8 @@ void DocumentScreen::ShowEntryFrame() {
 
 void DocumentScreen::ShowBrowseFrame() {
     FrameBawah.SetVisible(true);
+    // Whoever saved or gave up goes on with the next document.
+    if (Focused() && Focused()->Container() == &FrameAtas) SetFocus(bttnNew);
     FrameAtas.SetVisible(false);
 }
 

@@ -101,6 +101,7 @@ void Faktur::Load() {
     DocumentScreen::Load();
     ledger_.Open("SELECT * FROM Persediaan", Data());
     productTypes_.Open("SELECT * FROM JenisProduk  Order By KodeJenisProduk", Data());
+    boxes_.Clear();
     ClearFaktur();
     line_.FrameIsiBarang.SetVisible(false);
     line_.bttnAddLine.SetEnabled(false);

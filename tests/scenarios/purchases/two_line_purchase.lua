@@ -50,7 +50,7 @@ expect({text "TxtJumBru", text "TxtJumDis", text "TxtJumNetto", text "txtJumTota
        {"4,950,000", "480,000", "4,470,000", "4,470,000"})
 keys "{Alt+S}"
 expect(visible "FrameBawah", true)
-expect(enabled "bttnFirst", true)
+expect({enabled "bttnFirst", focused()}, {true, "bttnNew"})
 
 scenario "What it left in the books"
 expect(sql "Select NoFaktur, NoFakSup, TglFaktur, TglJtp, KodeSup, Bruto, Disc, Netto, Total, Bayar, Saldo, NoUser, Ket From Faktur",
