@@ -3,6 +3,11 @@
 #include "platform/ado/Errors.h"
 #include "platform/ado/Session.h"
 
+#ifndef _WIN32
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 namespace varnik::ado {
 namespace {
 
@@ -25,6 +30,17 @@ private:
     }
     std::filesystem::path file_;
 };
+
+// A renamed file has its new name for good once its folder is synced.
+void SyncFolder([[maybe_unused]] const std::filesystem::path& file) {
+#ifndef _WIN32
+    const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
+    const int handle = open(folder.c_str(), O_RDONLY | O_CLOEXEC);
+    if (handle < 0) return;
+    fsync(handle);
+    close(handle);
+#endif
+}
 
 void RequireSound(const std::filesystem::path& file) {
     const std::string complaint = CheckDatabase(file);
@@ -50,11 +66,13 @@ void CopyDatabase(const std::filesystem::path& from, const std::filesystem::path
     if (failure)
         throw DataError(EngineFault, "The file \"" + to.filename().string() +
                                          "\" cannot be written: " + failure.message() + ".");
+    SyncFolder(to);
 }
 
 void RestoreDatabase(const std::filesystem::path& from, const std::filesystem::path& to) {
     RequireSound(from);
     Explained(to, NoCatalog, [&] { CopyEngineFile(from, to, true); });
+    ReleaseSessions(to);
     NoteForeignWrite(to);
 }
 

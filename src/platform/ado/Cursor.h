@@ -80,6 +80,7 @@ protected:
     void Take(Row& read);
     // Rows read ahead are good while nothing is written here, and for a blink, since others write too.
     bool Fresh() const;
+    bool Written() const; // here, since rows were last read ahead
     void ReadAhead(std::deque<Row> rows);
     bool Meets(std::int64_t number, const std::vector<jet::Term>& terms);
 

@@ -86,11 +86,13 @@ private:
             ahead.pop_front();
             return true;
         }
+        // Whoever writes on every row reads one at a time; who only reads, ever more at once.
+        if (Written()) batch = FirstRead;
         std::deque<Row> rows =
             Read(Select("rowid > " + Placeholder(1), "order by rowid limit " + Placeholder(2)),
                  Parameters({from, batch}));
         batch = batch == FirstRead ? 16 : std::min(batch * 4, MostRead);
-        ahead.clear();
+        ReadAhead({});
         // A kept row that the condition no longer finds comes in its place.
         const auto next = kept_.upper_bound(from);
         if (next != kept_.end() && (rows.empty() || *next < rows.front().number)) {

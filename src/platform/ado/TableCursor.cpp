@@ -92,9 +92,10 @@ bool TableCursor::ReadRow(std::int64_t number) {
 }
 
 bool TableCursor::Fresh() const {
-    return aheadWrites_ == session.State().writes &&
-           std::chrono::steady_clock::now() - aheadTime_ < std::chrono::milliseconds(200);
+    return !Written() && std::chrono::steady_clock::now() - aheadTime_ < std::chrono::milliseconds(200);
 }
+
+bool TableCursor::Written() const { return aheadWrites_ != session.State().writes; }
 
 void TableCursor::ReadAhead(std::deque<Row> rows) {
     ahead = std::move(rows);

@@ -122,5 +122,22 @@ TEST_F(CostTest, OpenLotsAreASeek) {
     EXPECT_LT(SessionOf(connection).Native().Steps() - before, 1000);
 }
 
+// A walk that writes on every row costs the same for each, however many follow.
+TEST_F(CostTest, WritingOnTheWalkCostsTheSameForEveryRow) {
+    Connection connection = Open();
+    ExecuteNative(connection,
+                  "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i < 3000) INSERT INTO "
+                  "FakturDetail SELECT 'F', '2026-01-01', 'A', 1, 1, 1 FROM n");
+    for (const char* sql : {"Select * From FakturDetail", "Select * From FakturDetail Order By NoFaktur"}) {
+        const std::int64_t before = SessionOf(connection).Native().Steps();
+        Recordset lots(sql, connection);
+        for (; !lots.Eof(); lots.MoveNext()) {
+            lots["Qty"] = 2;
+            lots.Update();
+        }
+        EXPECT_LT(SessionOf(connection).Native().Steps() - before, 3000 * 300) << sql;
+    }
+}
+
 } // namespace
 } // namespace varnik::ado

@@ -1,5 +1,7 @@
 #include "tests/unit/ado/Fixture.h"
 
+#include <random>
+
 namespace varnik::ado {
 namespace {
 
@@ -239,6 +241,84 @@ TEST_F(RecordsetTest, NewRowsAreSavedCancelledAndRetried) {
         EXPECT_EQ(ledger["ID"].Value(), Value(i));
     }
     EXPECT_EQ(FailureOf([&] { ledger["ID"] = 9; }), CannotChange);
+}
+
+// Random work on an open recordset, audited by a plain list of rows.
+TEST_F(RecordsetTest, AgreesWithAPlainListOfRows) {
+    constexpr unsigned seed = 4711;
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const auto below = [&](int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random); };
+    for (const bool ordered : {false, true}) {
+        Run("Delete From Customer");
+        Connection connection = Open(), other = Open();
+        std::map<std::string, std::string> names; // by code; codes are handed out in rising order
+        int last = 0;
+        const auto fresh = [&] {
+            char code[8];
+            std::snprintf(code, sizeof code, "%05d", ++last);
+            return std::string(code);
+        };
+        Recordset rows(std::string("Select * From Customer Where nJTP = 0") +
+                           (ordered ? " Order By KodeCus" : ""),
+                       connection);
+        for (int step = 0; step < 500; ++step) {
+            const int what = below(10);
+            if (what < 3) {
+                const std::string code = fresh();
+                names[code] = "n" + std::to_string(below(5));
+                rows.AddNew();
+                rows["KodeCus"] = code;
+                rows["NamaCus"] = names[code];
+                rows["nJTP"] = rows["SaldoAkhir"] = rows["SaldoAwal"] = 0;
+                rows.Update();
+            } else if (what == 3) {
+                const std::string code = fresh();
+                names[code] = "other";
+                other.Execute("Insert Into Customer Values ('" + code + "','other',0,0,0,False)");
+                rows.Requery();
+            } else if (what < 6 && !names.empty()) {
+                auto at = std::next(names.begin(), below(static_cast<int>(names.size())));
+                if (below(2) == 0) rows.MoveFirst();
+                if (rows.Eof()) rows.MoveFirst();
+                const std::string from = rows["KodeCus"].Value().Text();
+                rows.Find("KodeCus='" + at->first + "'");
+                ASSERT_EQ(rows.Eof(), at->first < from) << step;
+                if (rows.Eof()) continue;
+                at->second = "n" + std::to_string(below(5));
+                rows["NamaCus"] = at->second;
+                rows.Update();
+            } else if (what == 6 && !rows.Eof()) {
+                names.erase(rows["KodeCus"].Value().Text());
+                rows.Delete();
+                rows.MoveNext();
+            } else if (what == 7 && !rows.Eof()) {
+                below(2) == 0 ? rows.MoveNext() : rows.MovePrevious();
+                if (rows.Bof() || rows.Eof()) rows.MoveFirst();
+            } else if (what == 8) {
+                std::size_t walked = 0;
+                for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext(), ++walked) {
+                    if (below(4) != 0) continue; // what is written on the way does not disturb the walk
+                    names[rows["KodeCus"].Value().Text()] = "w";
+                    rows["NamaCus"] = "w";
+                    rows.Update();
+                }
+                ASSERT_EQ(walked, names.size()) << step;
+                rows.MoveFirst();
+            } else {
+                std::string seen, expected;
+                for (rows.MoveFirst(); !rows.Eof(); rows.MoveNext())
+                    seen += rows["KodeCus"].Value().Text() + rows["NamaCus"].Value().Text() + " ";
+                for (const auto& [code, name] : names) expected += code + name + " ";
+                ASSERT_EQ(seen, expected) << step;
+                ASSERT_EQ(rows.RecordCount(), static_cast<long>(names.size())) << step;
+                rows.MoveLast();
+                if (!names.empty()) {
+                    ASSERT_EQ(rows["KodeCus"].Value().Text(), names.rbegin()->first) << step;
+                }
+            }
+        }
+    }
 }
 
 TEST_F(RecordsetTest, ClosesWithItsConnection) {

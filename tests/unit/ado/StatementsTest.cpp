@@ -6,6 +6,8 @@
 
 #include "tests/unit/ado/Fixture.h"
 
+#include <random>
+
 namespace varnik::ado {
 namespace {
 
@@ -224,6 +226,42 @@ TEST_F(StatementsTest, EveryShapeRuns) {
     }
     EXPECT_EQ(Ask("Select SaldoAkhir From Bank"), Value(200.0 + 5 - 101));
     EXPECT_EQ(Ask("Select Jumlah From BKM"), Value(1234.5));
+}
+
+// Whatever is typed into a field ends up inside a statement: it runs or it is refused, and nothing else
+// happens.
+TEST_F(StatementsTest, DamagedTextsRunOrAreRefused) {
+    constexpr unsigned seed = 20261122;
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const auto below = [&](std::size_t limit) {
+        return std::uniform_int_distribution<std::size_t>(0, limit - 1)(random);
+    };
+    constexpr const char* splinters[] = {
+        "'",       "\"",       "(",          ")", ",",  "#",        "[",     "]",  "].",
+        ";",       "--",       "/*",         "+", "/",  "=",        " And ", "''", "1,000",
+        " Union ", " Select ", "Case When ", "?", ":x", "\xC3\xA9", "."};
+    Connection connection = Open();
+    int refused = 0;
+    for (int round = 0; round < 4000; ++round) {
+        std::string sql = Statements[below(std::size(Statements))];
+        for (std::size_t cuts = 1 + below(3); cuts > 0; --cuts) {
+            const std::size_t at = below(sql.size());
+            if (below(2) == 0) {
+                sql.insert(at, splinters[below(std::size(splinters))]);
+            } else {
+                sql.erase(at, 1 + below(8));
+            }
+        }
+        const long failure = FailureOf([&] {
+            connection.Execute(sql);
+            Recordset(sql, connection).MoveNext();
+        });
+        refused += failure != 0;
+        EXPECT_NE(failure, EngineFault) << sql;
+    }
+    EXPECT_GT(refused, 1000);
+    EXPECT_EQ(CheckDatabase(file), "");
 }
 
 TEST_F(StatementsTest, EveryTableAndStoredQueryOpens) {
