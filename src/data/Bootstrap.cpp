@@ -79,7 +79,8 @@ bool CreateDatabaseCatalog(const Services& services) {
 
     std::filesystem::path fresh = file;
     fresh += ".new";
-    std::filesystem::remove(fresh, error); // of a start that was cut off
+    for (const char* tail : {"", "-wal", "-shm", "-journal"}) // of a start that was cut off
+        std::filesystem::remove(fresh.string() + tail, error);
     try {
         ado::CreateDatabase(fresh);
         ado::Connection connection(services.data, FileConnection(fresh));
