@@ -5,7 +5,11 @@
 #include "platform/forms/Controls.h"
 #include "platform/forms/Grid.h"
 
+#include "reports/engine/Report.h"
+
+#include <algorithm>
 #include <cstdio>
+#include <fstream>
 #include <stdexcept>
 
 namespace varnik::bench {
@@ -15,7 +19,7 @@ namespace {
 constexpr const char* OwnUser = "98";
 } // namespace
 
-BenchShop::BenchShop(long sales) {
+BenchShop::BenchShop(long sales) : filled_(sales) {
     std::string name = (std::filesystem::temp_directory_path() / "varnik-bench-XXXXXX").string();
     if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
     folder_ = name;
@@ -44,6 +48,41 @@ BenchShop::~BenchShop() {
 void BenchShop::OpenAndClose(const std::string& key) {
     desktop_->Show(Access().screens.at(key).make(Access())); // a second one beside the screen that enters
     desktop_->screens.back()->Close();
+}
+
+int BenchShop::FirstPageOfSales(long rows) {
+    constexpr const char* Columns = R"(title = "Sales"
+[[column]]
+heading = "Number"
+field = "NoInvoice"
+[[column]]
+heading = "Customer"
+field = "NamaCus"
+flex = true
+[[column]]
+heading = "Date"
+field = "TglInvoice"
+[[column]]
+heading = "Total"
+field = "Total"
+total = true
+[[column]]
+heading = "Balance"
+field = "Saldo"
+total = true
+)";
+    std::ofstream(folder_ / "Sales.rpt") << Columns;
+    char last[16];
+    std::snprintf(last, sizeof last, "%010ld00", rows);
+    ReportRequest request;
+    request.ReportFileName = (folder_ / "Sales.rpt").string();
+    request.SQLQuery = "SELECT KodeCus,NamaCus,NoInvoice,TglInvoice,Total,Bayar,Saldo From QryInvCustomer "
+                       "Where NoInvoice <= '" +
+                       std::string(last) + "'";
+    const auto report = reports::OpenReport(request, Access());
+    if (report->RowCount() != std::min(rows, filled_) || report->BuildPage(1).runs.empty())
+        throw std::runtime_error("the report is not whole");
+    return report->PageCount();
 }
 
 forms::Control& BenchShop::On(const std::string& control) {

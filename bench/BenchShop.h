@@ -25,6 +25,8 @@ public:
     void EnterSale(int lines);
     void Save();
     std::string NextNumber();
+    // Runs a list of the first so many sales up to its first page; the number of its pages.
+    int FirstPageOfSales(long rows);
     BareLoop& Bare() { return *bare_; }
 
 private:
@@ -36,7 +38,8 @@ private:
     std::unique_ptr<Program> program_;
     std::unique_ptr<BareLoop> bare_;
     forms::Screen* invoice_ = nullptr;
-    long sales_ = 0;
+    long filled_;    // sales that were there before
+    long sales_ = 0; // of the bench itself
 };
 
 } // namespace varnik::bench

@@ -59,6 +59,8 @@ void RegisterShop(const std::string& size, BenchShop& shop) {
     }
     Register("open Invoice, " + size, shop, 20,
              [](BenchShop& on) { return Seconds([&] { on.OpenAndClose("T01"); }); });
+    Register("list to its first page, " + size, shop, 1,
+             [](BenchShop& on) { return Seconds([&] { on.FirstPageOfSales(100'000); }); });
     Register("next number, " + size, shop, 50,
              [](BenchShop& on) { return Seconds([&] { benchmark::DoNotOptimize(on.NextNumber()); }); });
 }
@@ -106,6 +108,8 @@ int main(int argc, char** argv) {
     }
     Ratio(reporter.medians, "post 10 lines, large", "post 10 lines, small", "at most 1.3");
     Ratio(reporter.medians, "open Invoice, large", "open Invoice, small", "flat, under 20 ms");
+    Ratio(reporter.medians, "list to its first page, large", "list to its first page, small",
+          "under 1000 ms at 100,000 rows");
     Ratio(reporter.medians, "next number, large", "next number, small", "flat, under 20 ms");
     return 0;
 }

@@ -132,7 +132,7 @@ void Table::Balance() {
     opening_ = !opening.empty()   ? ToNumber(opening, facts_.regional)
                : !closing.empty() ? ToNumber(closing, facts_.regional) - static_cast<double>(sum)
                                   : 0;
-    closing_ = !closing.empty() ? ToNumber(closing, facts_.regional) : opening_;
+    closing_ = !closing.empty() ? ToNumber(closing, facts_.regional) : opening_ + static_cast<double>(sum);
     for (double& balance : running_) balance += opening_;
 }
 

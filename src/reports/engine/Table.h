@@ -53,7 +53,8 @@ public:
 
     bool HasOpening() const { return hasOpening_; }
     double Opening() const { return opening_; }
-    double Closing() const { return running_.empty() ? closing_ : running_.back(); }
+    // As the request says; without one in the request, the balance after the last row.
+    double Closing() const { return closing_; }
 
     // The value and the text of a cell; a cell whose column is missing is empty.
     Value CellValue(const Slot& slot, std::uint32_t row) const;

@@ -85,10 +85,9 @@ TEST_F(Preview, BuildsOnlyThePagesThatCanBeSeen) {
 }
 
 TEST_F(Preview, FindMovesToThePageAndRoundTheEnd) {
-    Open(ManyRows);
-    ASSERT_TRUE(window->Find("product NUMBER 99999"));
-    const int late = window->Pages().CurrentPage();
-    EXPECT_GT(late, window->Shown().PageCount() - 5);
+    Open(2000);
+    ASSERT_TRUE(window->Find("product NUMBER 1999"));
+    EXPECT_GT(window->Pages().CurrentPage(), window->Shown().PageCount() - 5);
     ASSERT_TRUE(window->Find("B1000003"));
     EXPECT_EQ(window->Pages().CurrentPage(), 1);
     EXPECT_FALSE(window->Find("no such text"));
