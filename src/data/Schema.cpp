@@ -3,8 +3,6 @@
 
 #include "data/Schema.h"
 
-#include "data/Queries.h"
-
 #include <vector>
 
 namespace varnik::data {
@@ -272,12 +270,7 @@ std::span<const ado::Index> PrimaryIndexes() { return PrimaryList; }
 std::span<const ado::Index> UniqueKeys() { return UniqueList; }
 
 const jet::Catalog& Catalog() {
-    static const auto views = [] {
-        std::vector<jet::View> all;
-        for (const StoredQuery& query : StoredQueries()) all.push_back({query.name, query.select});
-        return all;
-    }();
-    static const jet::Catalog catalog{TableList, views};
+    static const jet::Catalog catalog{TableList};
     return catalog;
 }
 

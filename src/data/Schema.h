@@ -13,7 +13,7 @@ std::span<const jet::Table> Tables();         // in creation order
 std::span<const ado::Index> PrimaryIndexes(); // created after all tables
 std::span<const ado::Index> UniqueKeys();     // created after the primary indexes
 
-// Tables and stored queries; valid for the whole run.
+// Valid for the whole run.
 const jet::Catalog& Catalog();
 
 } // namespace varnik::data

@@ -22,15 +22,8 @@ struct Table {
     std::span<const Column> columns; // in creation order, the order of SELECT *
 };
 
-// Tables and, for stored queries, only what the rewriter needs: the columns of a query that hold text.
-struct View {
-    std::string_view name;
-    std::string_view sql; // its text in the screens' dialect
-};
-
 struct Catalog {
     std::span<const Table> tables;
-    std::span<const View> views;
 
     const Table* FindTable(std::string_view name) const; // without regard to case; null when unknown
 };

@@ -44,7 +44,7 @@ protected:
                  ("varnik-ado-" + std::to_string(getpid()) + "-" + std::to_string(++count_));
         std::filesystem::create_directories(folder);
         file = folder / "Varnik.mdb";
-        environment.catalog = {TestTables, {}};
+        environment.catalog = {TestTables};
         environment.regional = &regional;
         environment.busyTimeoutMs = 100;
         environment.resolve = [this](std::string_view text) {

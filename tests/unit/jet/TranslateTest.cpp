@@ -17,7 +17,7 @@ constexpr Column InvoiceColumns[] = {{"NoInvoice", ColumnType::Text, 12},
                                      {"Saldo", ColumnType::Double, 0, true},
                                      {"Bayar", ColumnType::Double, 0, true}};
 constexpr Table Tables[] = {{"Bank", BankColumns}, {"Invoice", InvoiceColumns}};
-const Catalog TestCatalog{Tables, {}};
+const Catalog TestCatalog{Tables};
 
 Statement Read(std::string_view sql, DateOrder order = DateOrder::MonthDayYear) {
     Regional regional;
