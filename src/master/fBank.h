@@ -17,7 +17,7 @@ public:
     forms::TextBox txtSaldoAwal{*this, "txtSaldoAwal", "Begining Balance"};
     forms::TextBox txtSaldoAkhir{*this, "txtSaldoAkhir", "Final Balance"};
     forms::TextBox txtket{*this, "txtket", "Notes"};
-    forms::CheckBox Check1{*this, "Check1", "De&fault"};
+    forms::CheckBox Check1{*this, "Check1", "Default"};
     MasterButtons buttons{*this};
     MasterSearch search{*this};
 

@@ -60,9 +60,9 @@ void AfterLogin(Services& services) {
         return;
     }
     auto splash = std::make_unique<frmSplash>(services);
-    frmSplash& shown = *splash;
+    const std::string splashName = splash->Name();
     services.desktop.Show(std::move(splash));
-    services.desktop.Repaint(shown);
+    if (forms::Screen* shown = services.desktop.FindScreen(splashName)) services.desktop.Repaint(*shown);
 
     session.LoggedIn = true;
     session.PaymentMethod = {"", "CASH", "CHEQUE", "BG"};
@@ -71,7 +71,7 @@ void AfterLogin(Services& services) {
     session.WordScale = {"", "Puluh", "Ratus", "Ribu", "Juta"};
 
     services.desktop.Show(std::make_unique<frmMainCode>(services));
-    shown.Close();
+    if (forms::Screen* covering = services.desktop.FindScreen(splashName)) covering->Close();
 }
 
 } // namespace

@@ -21,7 +21,7 @@ Node Partner(Node heading, std::vector<Node> money) {
                                    {Field("txtContax", 20)},
                                    {Field("txtJabatan", 20)}}))
                  .Share(1),
-             Card("Terms and balance", Form(std::move(moneyRows)))}),
+             Card("Terms and balance", Column({Form(std::move(moneyRows)), Spring()}))}),
     });
 }
 
