@@ -37,7 +37,11 @@ constexpr MasterRow row{
                .reportsFailure = false},
     .list = &listRow};
 
-constexpr int TypeKey = 3; // characters
+constexpr int TypeKey = 3; // characters; a shorter code is padded, so that the text begins with the whole key
+
+std::string TypeItem(const std::string& code, const std::string& name) {
+    return PadRight(code, TypeKey) + " - " + name;
+}
 
 } // namespace
 
@@ -52,7 +56,7 @@ void fBiaya::FillLists() {
         "SELECT KodeJenisBiaya, JenisBiaya  FROM JenisBiaya Order By KodeJenisBiaya";
     Resume([&] { types_.Open(statement, connection_); });
     TxtKodeAcc.SetItems(Items(statement, [this](ado::Recordset& type) {
-        return PadRight(TextOf(type["KodeJenisBiaya"]), TypeKey) + " - " + TextOf(type["JenisBiaya"]);
+        return TypeItem(TextOf(type["KodeJenisBiaya"]), TextOf(type["JenisBiaya"]));
     }));
 }
 
@@ -67,7 +71,7 @@ void fBiaya::LeaveType() {
         types_.MoveFirst();
         types_.Find("KodeJenisBiaya=" + Quoted(TypeCode()));
         if (!types_.Eof())
-            TxtKodeAcc.SetText(TextOf(types_["KodeJenisBiaya"]) + " - " + TextOf(types_["JenisBiaya"]));
+            TxtKodeAcc.SetText(TypeItem(TextOf(types_["KodeJenisBiaya"]), TextOf(types_["JenisBiaya"])));
     });
 }
 
