@@ -49,7 +49,8 @@ double Company(const Table& table, double width, Page& page) {
     double y = Margin;
     if (!company[0].empty()) y += Line(page, Margin, y, width, company[0], {14, true, Accent}) + 0.6;
     for (std::size_t i = 1; i < company.size(); ++i)
-        if (!Trim(company[i]).empty()) y += Line(page, Margin, y, width, company[i], {8.5, false, Muted});
+        if (!Trim(company[i]).empty())
+            y += Paragraph(page, Margin, y, width, company[i], {8.5, false, Muted});
     return y - Margin;
 }
 

@@ -175,8 +175,8 @@ void PreviewWindow::BuildFindField(QToolBar& bar) {
     findField_->setAccessibleName("Find in the report");
     findField_->setPlaceholderText("Find in the report");
     findField_->setClearButtonEnabled(true);
-    findField_->setMinimumWidth(110);
-    findField_->setMaximumWidth(230);
+    findField_->setMinimumWidth(210);
+    findField_->setMaximumWidth(320);
     findField_->addAction(DrawPreviewIcon(PreviewIcon::Find, palette().color(QPalette::PlaceholderText)),
                           QLineEdit::LeadingPosition);
     bar.addWidget(findField_);
