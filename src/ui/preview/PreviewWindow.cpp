@@ -108,6 +108,9 @@ void PreviewWindow::BuildToolBar() {
     BuildZoomField(bar);
     bar.addWidget(Spacer(&bar));
     BuildFindField(bar);
+    // What a narrow window has no room for stands behind a button that the toolkit makes.
+    if (auto* more = bar.findChild<QToolButton*>("qt_toolbar_ext_button"))
+        more->setAccessibleName("More commands");
     auto* close = new QAction(this);
     close->setShortcuts({QKeySequence("Ctrl+W"), QKeySequence(Qt::Key_Escape)});
     connect(close, &QAction::triggered, this, [this] {
@@ -175,7 +178,7 @@ void PreviewWindow::BuildFindField(QToolBar& bar) {
     findField_->setAccessibleName("Find in the report");
     findField_->setPlaceholderText("Find in the report");
     findField_->setClearButtonEnabled(true);
-    findField_->setMinimumWidth(210);
+    findField_->setMinimumWidth(130);
     findField_->setMaximumWidth(320);
     findField_->addAction(DrawPreviewIcon(PreviewIcon::Find, palette().color(QPalette::PlaceholderText)),
                           QLineEdit::LeadingPosition);
