@@ -14,7 +14,7 @@ DocumentScreen::DocumentScreen(Services& services, std::string name, std::string
       bttnClose(*this, "bttnClose", "C&lose"),
       FrameAtas(*this, "FrameAtas"),
       bttnSave(*this, "bttnSave", "&Save"),
-      bttnCancel(*this, "bttnCancel", "Ca&ncel"),
+      bttnCancel(*this, "bttnCancel", "Cance&l"),
       connection_(services.data) {
     FrameBawah.Hold({&bttnNew, &bttnDel, &bttnFind, &bttnPrint, &bttnClose});
     FrameAtas.Hold({&bttnSave, &bttnCancel});
@@ -41,15 +41,16 @@ void DocumentScreen::Unload() { connection_.Close(); }
 void DocumentScreen::Save() {
     if (Browsing()) return;
     if (Mode() == EntryMode::New && !TestsPassed()) return;
-    bttnSave.SetEnabled(false);
-    if (Mode() == EntryMode::New)
-        Post();
-    else if (ReverseConfirmed()) {
-        Reverse();
-        bttnSave.SetCaption("&Save");
+    {
+        const Resting resting(*this, bttnSave);
+        if (Mode() == EntryMode::New)
+            Post();
+        else if (ReverseConfirmed()) {
+            Reverse();
+            bttnSave.SetCaption("&Save");
+        }
+        ado::SyncWritten();
     }
-    ado::SyncWritten();
-    bttnSave.SetEnabled(true);
     SetMode(EntryMode::Browsing);
     EntryEnded();
     ShowBrowseFrame();
@@ -135,6 +136,16 @@ bool DocumentScreen::Found(ado::Recordset& rows, const std::string& sql) {
         found = !rows.Empty();
     });
     return found;
+}
+
+Resting::Resting(forms::Screen& screen, forms::Button& button)
+    : screen_(screen), button_(button), focused_(screen.Focused() == &button) {
+    button_.SetEnabled(false);
+}
+
+Resting::~Resting() {
+    button_.SetEnabled(true);
+    if (focused_) screen_.SetFocus(button_);
 }
 
 } // namespace varnik::document

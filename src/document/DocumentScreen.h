@@ -96,4 +96,19 @@ private:
     Desktop& desktop_;
 };
 
+// A button that is disabled while what it does is under way. The focus comes back to it: the next Enter
+// must not press its neighbour.
+class Resting {
+public:
+    Resting(forms::Screen& screen, forms::Button& button);
+    ~Resting();
+    Resting(const Resting&) = delete;
+    Resting& operator=(const Resting&) = delete;
+
+private:
+    forms::Screen& screen_;
+    forms::Button& button_;
+    bool focused_;
+};
+
 } // namespace varnik::document

@@ -36,12 +36,12 @@ document::SearchLayout Search() {
     return {"SELECT KodeCus, NamaCus, NoInvoice, TglInvoice,  Netto, PPN, Total, Bayar, Saldo "
             "FROM QryInvCustomer ",
             Choices,
-            {{"Cus ID", Align::Left, 10},
-             {"Name Of Customer", Align::Left, 30},
-             {"Invoice ID", Align::Left, 12},
-             {"Inv Date", Align::Left, 10},
+            {{"Cus ID", Align::Left, 13},
+             {"Name Of Customer", Align::Left, 24},
+             {"Invoice ID", Align::Left, 15},
+             {"Inv Date", Align::Left, 12},
              {"Netto", Align::Right, 12},
-             {"Tax", Align::Right, 10},
+             {"Tax", Align::Right, 11},
              {"Amount", Align::Right, 12},
              {"Payment", Align::Right, 12},
              {"Balance", Align::Right, 12}},
@@ -189,6 +189,9 @@ void Invoice::CancelEntry() {
 bool Invoice::TestsPassed() {
     // Wanted: the number and the customer are asked for being unset, which a text never is. A blank number
     // is met as its field is left, a blank customer by nothing. The date of a date picker is one always.
+    if (Trim(TxtNoInvoice.Text()).empty()) return false;
+    // The customer's code has just called the focus back: it is unknown and has to be looked at first.
+    if (Focused() == &TxtKodeCus) return false;
     if (IsDate(TxtJTP.Text(), services_.regional)) return true;
     Say("Format of date not valid " + std::string(CrLf) + "Using format : " + Shown(Today()));
     return false;
@@ -198,9 +201,8 @@ void Invoice::EntryEnded() { line_.bttnAddLine.SetVisible(false); }
 
 void Invoice::OpenReceipt() {
     if (!Sess().RightTambah || !(sums_.SumBayar < sums_.SumTotal)) return;
-    bttnBayar.SetEnabled(false);
+    const document::Resting resting(*this, bttnBayar);
     OpenScreen(services_, "Bayar", "Customer Receive");
-    bttnBayar.SetEnabled(true);
 }
 
 // ---- The header: each field goes on to the one after it ----

@@ -65,7 +65,7 @@ void Invoice::ShowHeader(Guard& step, ado::Recordset& invoice) {
 
 void Invoice::Print() {
     const document::Hourglass hourglass(Desk());
-    bttnPrint.SetEnabled(false);
+    const document::Resting resting(*this, bttnPrint);
     Reported(Desk(), [&] {
         ReportRequest request = ReportOf("\\Invoice.rpt");
         request.SQLQuery =
@@ -82,7 +82,6 @@ void Invoice::Print() {
         request.WindowTitle = "Print Invoice";
         Desk().LaunchReport(request);
     });
-    bttnPrint.SetEnabled(true);
 }
 
 } // namespace varnik

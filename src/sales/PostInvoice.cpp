@@ -72,8 +72,10 @@ void Invoice::PostCustomer(Guard& step, ado::Connection& connection) {
     }
     step.Step([&] { customer.AddNew(); });
     step.Put(customer, {{"kodeCus", TxtKodeCus.Text()}, {"NamaCus", TxtNamaCus.Text()}});
-    step.Put(customer, {{"Alamat_1", TxtAlamat1.Text()}, {"Alamat_2", TxtAlamat2.Text()}});
-    if (!Trim(TxtAlamat3.Text()).empty()) step.Put(customer, {{"Alamat_3", TxtAlamat3.Text()}});
+    const std::pair<const char*, const forms::TextBox*> address[] = {
+        {"Alamat_1", &TxtAlamat1}, {"Alamat_2", &TxtAlamat2}, {"Alamat_3", &TxtAlamat3}};
+    for (const auto& [column, field] : address)
+        if (!Trim(field->Text()).empty()) step.Put(customer, {{column, field->Text()}});
     step.PutRow(customer, {{"nDis", 0},
                            {"nwDis", 0},
                            {"nJTP", 0},

@@ -18,8 +18,8 @@ Node Totals(std::string last) {
 std::vector<Page> SalesPages() {
     Node header = Row({Card("", Form({{Field("TxtNoInvoice", 15)},
                                       {Field("TxtTglInvoice", 15)},
-                                      {Field("TxtJTP", 15)},
-                                      {Field("txtCusPO", 15), Field("TxtPPN", 6)}})),
+                                      {Field("txtCusPO", 15)},
+                                      {Field("TxtJTP", 15), Field("TxtPPN", 6)}})),
                        Card("", Form({{Field("TxtKodeCus", 15)},
                                       {Field("TxtNamaCus")},
                                       {Field("TxtAlamat1")},

@@ -31,6 +31,22 @@ click "bttnNew"
 expect(text "TxtNoInvoice", "000000004200")
 click "bttnCancel"
 
+scenario "A save waits for the number and for a customer that nobody knows"
+click "bttnNew"
+clear "TxtNoInvoice"
+click "bttnSave"
+expect_message "Invoice number must not blank ..."
+expect(visible "FrameAtas", true)
+enter("TxtNoInvoice", "000000004300")
+focus "TxtKodeCus"
+keys "typo"
+click "bttnSave"
+expect(focused(), "TxtKodeCus")
+expect(sql "Select NoInvoice From Invoice Where NoInvoice = '000000004300' Or NoInvoice = ''", {})
+click "bttnSave"
+expect(sql "Select KodeCus From Invoice Where NoInvoice = '000000004300'", {{"TYPO"}})
+expect(sql "Select NamaCus, Alamat_1 From Customer Where KodeCus = 'TYPO'", {{"", nil}})
+
 scenario "Numbers in deleting: one that is not there ends it"
 click "bttnDel"
 expect(caption "bttnSave", "&Delete")

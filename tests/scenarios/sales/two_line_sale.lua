@@ -76,6 +76,7 @@ for _, shown in ipairs{"000000000100", "Toko Maju", "PO-7", "Semen 40 kg", "Paku
 end
 report():close()
 expect(enabled "bttnPrint", true)
+expect(focused(), "bttnPrint")
 
 scenario "The next invoice takes the next number"
 keys "{Alt+N}"
