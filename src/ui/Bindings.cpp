@@ -37,8 +37,7 @@ public:
         icon_ = icon;
         primary_ = primary;
         const Colours& colours = CurrentColours();
-        button_->setIcon(
-            DrawnIcon(icon, primary && button_->isEnabled() ? colours.accentText : colours.accent));
+        button_->setIcon(DrawnIcon(icon, primary ? colours.accentText : colours.accent, colours.accent));
     }
 
 private:

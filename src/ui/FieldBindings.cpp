@@ -2,19 +2,25 @@
 
 #include "platform/forms/Controls.h"
 #include "ui/Binder.h"
+#include "ui/Icons.h"
 #include "ui/QtText.h"
+#include "ui/Style.h"
 
 #include <QAbstractItemView>
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QStyle>
+#include <QTextCharFormat>
+#include <QToolButton>
 
 namespace varnik::ui {
 
@@ -32,6 +38,29 @@ void Show(QLineEdit& edit, const std::string& text) {
         edit.setCursorPosition(0);
 }
 
+// The menu of a field. The toolkit's own would paste past the screen's filter: this one presses the keys.
+void OfferClipboard(QLineEdit& edit) {
+    edit.setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(&edit, &QLineEdit::customContextMenuRequested, &edit, [&edit](const QPoint& place) {
+        auto* menu = new QMenu(&edit);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        const auto add = [&](const QString& text, int key, bool usable) {
+            QAction* action = menu->addAction(text);
+            action->setEnabled(usable);
+            QObject::connect(action, &QAction::triggered, &edit, [&edit, key] {
+                QKeyEvent press(QEvent::KeyPress, key, Qt::ControlModifier);
+                QCoreApplication::sendEvent(&edit, &press);
+            });
+        };
+        const bool marked = edit.hasSelectedText() && edit.echoMode() == QLineEdit::Normal;
+        add(QStringLiteral("Cu&t"), Qt::Key_X, marked && !edit.isReadOnly());
+        add(QStringLiteral("&Copy"), Qt::Key_C, marked);
+        add(QStringLiteral("&Paste"), Qt::Key_V, !edit.isReadOnly());
+        add(QStringLiteral("Select &All"), Qt::Key_A, !edit.text().isEmpty());
+        menu->popup(edit.mapToGlobal(place));
+    });
+}
+
 class LineBinding : public Binding {
 public:
     LineBinding(Binder& binder, forms::TextBox& box, QLineEdit* edit)
@@ -41,8 +70,7 @@ public:
             box_.Type(FromQt(text));
             Refresh();
         });
-        // The menu's own Paste would pass by the screen's filter; the keyboard's goes through it.
-        edit->setContextMenuPolicy(Qt::NoContextMenu);
+        OfferClipboard(*edit);
     }
     void Refresh() override {
         const QScopedValueRollback<bool> quiet(refreshing_, true);
@@ -99,13 +127,14 @@ public:
         if (!box.ListOnly()) {
             combo->setEditable(true);
             combo->setCompleter(nullptr);
-            combo->lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
+            OfferClipboard(*combo->lineEdit());
             QObject::connect(combo, &QComboBox::editTextChanged, combo, [this](const QString& text) {
                 if (refreshing_) return;
                 box_.Type(FromQt(text));
                 Refresh();
             });
         }
+        combo->setView(new QListView(combo)); // its rows take the style sheet's height
         combo->setInsertPolicy(QComboBox::NoInsert);
         combo->setMaxVisibleItems(14);
         QObject::connect(combo, &QComboBox::activated, combo, [this](int index) {
@@ -161,12 +190,27 @@ private:
     bool refreshing_ = false;
 };
 
+void DressCalendar(QCalendarWidget& calendar) {
+    calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendar.setMinimumSize(360, 270);
+    QTextCharFormat weekend;
+    weekend.setForeground(CurrentColours().quietText);
+    calendar.setWeekdayTextFormat(Qt::Saturday, weekend);
+    calendar.setWeekdayTextFormat(Qt::Sunday, weekend);
+    const char* const turns[] = {"qt_calendar_prevmonth", "qt_calendar_nextmonth"};
+    const char* const icons[] = {"previous", "next"};
+    for (int i = 0; i < 2; ++i)
+        if (auto* button = calendar.findChild<QToolButton*>(QLatin1String(turns[i])))
+            button->setIcon(DrawnIcon(QLatin1String(icons[i]), CurrentColours().accent));
+}
+
 class DateBinding : public Binding {
 public:
     DateBinding(Binder& binder, forms::DatePicker& picker, QDateEdit* edit)
         : Binding(binder, picker, edit), picker_(picker), edit_(edit) {
         edit->setCalendarPopup(true);
         edit->setDisplayFormat(Format(binder.Settings()));
+        DressCalendar(*edit->calendarWidget());
         edit->setDateRange(QDate(1900, 1, 1), QDate(2099, 12, 31));
         QObject::connect(edit, &QDateEdit::dateChanged, edit, [this](const QDate& date) {
             if (refreshing_) return;
@@ -182,8 +226,15 @@ public:
     }
     void SelectAll() override { edit_->setSelectedSection(edit_->sectionAt(0)); }
     bool TakesKey(QKeyEvent& event) override {
-        return event.key() == Qt::Key_F4 ||
-               (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier));
+        const bool opens = event.key() == Qt::Key_F4 ||
+                           (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier));
+        if (!opens) return false;
+        // The toolkit opens its calendar by the mouse alone.
+        const QPointF arrow(edit_->width() - 10, edit_->height() / 2.0);
+        QMouseEvent press(QEvent::MouseButtonPress, arrow, edit_->mapToGlobal(arrow), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(edit_, &press);
+        return true;
     }
 
 private:

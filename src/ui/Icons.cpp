@@ -15,10 +15,11 @@ namespace {
 // Draws the line icon at the size asked for, in the colour of the state.
 class LineIconEngine : public QIconEngine {
 public:
-    LineIconEngine(QByteArray drawing, QColor colour) : drawing_(std::move(drawing)), colour_(colour) {}
+    LineIconEngine(QByteArray drawing, QColor colour, QColor disabled)
+        : drawing_(std::move(drawing)), colour_(colour), disabled_(disabled.isValid() ? disabled : colour) {}
 
     void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
-        QColor colour = colour_;
+        QColor colour = mode == QIcon::Disabled ? disabled_ : colour_;
         if (mode == QIcon::Disabled) colour.setAlphaF(0.38F);
         QByteArray drawing = drawing_;
         drawing.replace("#334155", colour.name().toLatin1());
@@ -40,7 +41,7 @@ public:
 
 private:
     QByteArray drawing_;
-    QColor colour_;
+    QColor colour_, disabled_;
 };
 
 std::string Lower(std::string_view text) {
@@ -80,7 +81,7 @@ constexpr NamedIcon ControlIcons[] = {
     {"mnuconnect", "database"},
     {"mnuhelpcontents", "help"},
     {"mnuhelpabout", "info"},
-    {"mnuhelpvisit", "home"},
+    {"mnuhelpvisit", "globe"},
 };
 
 constexpr NamedIcon MenuKeyIcons[] = {
@@ -93,10 +94,10 @@ constexpr NamedIcon MenuKeyIcons[] = {
 
 } // namespace
 
-QIcon DrawnIcon(const QString& name, const QColor& colour) {
+QIcon DrawnIcon(const QString& name, const QColor& colour, const QColor& disabled) {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
     if (!file.open(QIODevice::ReadOnly)) return {};
-    return QIcon(new LineIconEngine(file.readAll(), colour));
+    return QIcon(new LineIconEngine(file.readAll(), colour, disabled));
 }
 
 QString IconOfControl(const std::string& controlName) {

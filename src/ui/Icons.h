@@ -9,8 +9,9 @@
 
 namespace varnik::ui {
 
-// A line icon ("add", "print") in a colour, crisp at every size a widget asks for, greyed when disabled.
-QIcon DrawnIcon(const QString& name, const QColor& colour);
+// A line icon ("add", "print") in a colour, crisp at every size a widget asks for; faded, in the colour for
+// that when one is given, while its widget is disabled.
+QIcon DrawnIcon(const QString& name, const QColor& colour, const QColor& disabled = {});
 
 // The icon's name for a control ("bttnAdd" -> "add", "mnuFileExit" -> "exit"), "" for none.
 QString IconOfControl(const std::string& controlName);

@@ -52,6 +52,11 @@ void QtDesktop::Open(std::unique_ptr<forms::Screen> screen, bool modal, std::fun
     ReportFailures(*screen, *this);
     auto* window = new ScreenWindow(std::move(screen), regional_);
     windows_.emplace_back(window);
+    if (const QPointer<QWidget> opener = modal ? QApplication::activeWindow() : nullptr; opener) {
+        window->winId();
+        if (opener->windowHandle()) window->windowHandle()->setTransientParent(opener->windowHandle());
+        QObject::connect(window, &QObject::destroyed, opener, [opener] { opener->activateWindow(); });
+    }
     window->onClosed = [this, then = std::move(then)](ScreenWindow& closed) { Closed(closed, then); };
     window->Open(modal);
 }

@@ -51,6 +51,15 @@ QComboBox::down-arrow, QDateEdit::down-arrow { image: url(:/icons/chevron-down.s
 QComboBox QLineEdit, QDateEdit QLineEdit { border: none; padding: 0; background: transparent; }
 QComboBox QAbstractItemView { background: @card; color: @text; border: 1px solid @border; outline: none;
     selection-background-color: @selection; selection-color: @text; }
+QComboBox QAbstractItemView::item { min-height: 24px; }
+QComboBox QAbstractItemView::item:selected { background: @selection; color: @text; }
+QCalendarWidget { background: @card; }
+QCalendarWidget QWidget#qt_calendar_navigationbar { background: @card; border-bottom: 1px solid @border; }
+QCalendarWidget QToolButton { background: transparent; color: @text; border: none; border-radius: 4px; padding: 5px 9px; margin: 2px; }
+QCalendarWidget QToolButton:hover { background: @selection; }
+QCalendarWidget QToolButton::menu-indicator { image: none; }
+QCalendarWidget QAbstractItemView { background: @card; alternate-background-color: @card; color: @text; border: none; outline: none;
+    selection-background-color: @accent; selection-color: @accentText; }
 
 QPushButton { background: @card; color: @text; border: 1px solid @border; border-radius: 5px; padding: 5px 12px; }
 QPushButton:hover { background: @selection; border-color: @accent; }

@@ -59,6 +59,11 @@ private:
         Keys("fProduk", "txtKode", "0000000001");
         Press("fProduk", Qt::Key_Return);
         Both("fProduk", "record");
+        Click("fProduk", "bttnEdit");
+        Both("fProduk", "edit");
+        Window("fProduk")->Screen().MoveFocus(*Window("fProduk")->Screen().FindControl("TxtSatuan"));
+        PopUp("fProduk", "TxtSatuan", Qt::Key_F4, "units");
+        Click("fProduk", "bttnCancel");
         Click("fProduk", "bttnFind");
         Click("fProduk", "cmdExecute");
         Both("fProduk", "search");
@@ -67,6 +72,8 @@ private:
     void Invoice() {
         if (!Open("T01", "Invoice")) return;
         Click("Invoice", "bttnNew");
+        EnterUpTo("Invoice", "TxtTglInvoice");
+        PopUp("Invoice", "TxtTglInvoice", Qt::Key_F4, "calendar");
         EnterUpTo("Invoice", "TxtKodeCus");
         Press("Invoice", Qt::Key_F5);
         Both("Invoice", "lookup");
@@ -150,6 +157,16 @@ private:
         Save(*window, name + QStringLiteral("-130"));
         window->resize(size);
         QTest::qWait(30);
+    }
+    void PopUp(const char* screen, const char* control, Qt::Key key, const char* picture) {
+        QTest::keyClick(Find(screen, control), key);
+        if (!QTest::qWaitFor([] { return QApplication::activePopupWidget(); }, 2000)) {
+            std::cerr << screen << "." << control << " opens nothing\n";
+            return;
+        }
+        QWidget* list = QApplication::activePopupWidget();
+        Save(*list, QString::fromLatin1(picture));
+        list->close();
     }
     void Menu(const char* label) {
         Click("frmMainCode", label);

@@ -1,12 +1,16 @@
 #include "tests/ui/Desk.h"
 #include "tests/ui/Sample.h"
 
+#include "ui/Style.h"
+
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
+#include <cmath>
 
 namespace varnik::test {
 namespace {
@@ -163,6 +167,38 @@ TEST_F(Binder, ScalesWithTheWindowAndBack) {
     EXPECT_EQ(code->font().pixelSize(), letters);
     window.resize(10, 10);
     EXPECT_GE(window.width(), size.width() / 2);
+}
+
+TEST_F(Binder, PastedTextGoesThroughTheSameFilterAsTyping) {
+    QApplication::clipboard()->setText(QStringLiteral("ab\n1"));
+    QTest::keyClick(Find<QLineEdit>(sample, "code"), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(sample.code.Text(), "AB1");
+}
+
+double Luminance(const QColor& colour) {
+    const auto part = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+    const auto [dark, light] = std::minmax(Luminance(one), Luminance(other));
+    return (light + 0.05) / (dark + 0.05);
+}
+
+TEST_F(Binder, ColoursCanBeTold) {
+    for (const bool dark : {true, false}) {
+        ui::ApplyStyle(*qApp, dark);
+        const ui::Colours& c = ui::CurrentColours();
+        for (const QColor& ground : {c.window, c.card, c.lockedGround, c.zebra}) {
+            EXPECT_GE(Contrast(c.text, ground), 4.5) << ground.name().toStdString();
+            EXPECT_GE(Contrast(c.quietText, ground), 4.5) << ground.name().toStdString();
+            EXPECT_GE(Contrast(c.accent, ground), 3) << "the focus mark on " << ground.name().toStdString();
+        }
+        EXPECT_GE(Contrast(c.text, c.selection), 4.5);
+        EXPECT_GE(Contrast(c.accentText, c.accent), 4.5);
+    }
 }
 
 TEST_F(Binder, EveryControlHasAnAccessibleName) {
