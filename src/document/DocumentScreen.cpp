@@ -107,15 +107,16 @@ void DocumentScreen::OpenList(LookupList& list, const std::string& sql, forms::T
 }
 
 void DocumentScreen::ShowLines(Guard& step, OrderLines& grid, ado::Recordset& lines, const char* name,
-                               std::string_view quantityMask) {
-    const auto amount = [&](const char* column) { return NullToNumber(lines[column], services_.regional); };
+                               const LineMasks& masks) {
+    const auto number = [&](const char* column) { return NullToNumber(lines[column], services_.regional); };
+    const auto amount = [&](double of) { return Masked(of, masks.amount); };
     while (!lines.Eof()) {
         step.Step([&] {
             grid.Write(grid.LastRow(),
-                       {TextOf(lines["KodeBrg"]), TextOf(lines[name]), Masked(amount("Qty"), quantityMask),
-                        TextOf(lines["Satuan"]), Masked(amount("Harga")),
-                        Masked(amount("Harga") * amount("Qty")), Masked(amount("Disc")),
-                        Masked(amount("Total")), Masked(amount("Qty2"))});
+                       {TextOf(lines["KodeBrg"]), TextOf(lines[name]), Masked(number("Qty"), masks.quantity),
+                        TextOf(lines["Satuan"]), amount(number("Harga")),
+                        amount(number("Harga") * number("Qty")), amount(number("Disc")),
+                        amount(number("Total")), Masked(number("Qty2"))});
         });
         step.Step([&] { lines.MoveNext(); });
         // Wanted: no empty row follows the last line of a loaded document.

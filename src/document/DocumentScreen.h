@@ -15,6 +15,11 @@
 
 namespace varnik::document {
 
+// How the saved lines of a document of goods show.
+struct LineMasks {
+    std::string_view quantity = "#,##0", amount = "#,##0";
+};
+
 enum class EntryMode { Browsing = 0, New = 1, Deleting = 3 };
 
 class DocumentScreen : public ProgramScreen {
@@ -64,7 +69,7 @@ protected:
     // The saved lines of a document of goods in the grid, an empty row between each and the next. `name` is
     // the column of the description.
     void ShowLines(Guard& step, OrderLines& grid, ado::Recordset& lines, const char* name,
-                   std::string_view quantityMask = "#,##0");
+                   const LineMasks& masks = {});
     // A request for one of the printed documents in the folder of reports ("\\Invoice.rpt").
     ReportRequest ReportOf(const std::string& file) const;
 

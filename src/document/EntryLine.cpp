@@ -17,10 +17,9 @@ EntryLine::EntryLine(forms::Screen& screen, const EntryLineNames& names)
       TxtHrgTot(screen, "TxtHrgTot", "Netto"),
       Check2(screen, "Check2", "&Service"),
       bttnAddLine(screen, "bttnAddLine", "&Add"),
-      BatalLine(screen, std::string(names.cancelButton), "&Cancel"),
-      bttnSearch(screen, std::string(names.searchButton), "...") {
+      BatalLine(screen, std::string(names.cancelButton), "&Cancel") {
     FrameIsiBarang.Hold({&txtKodeBrg, &TxtDiskripsi, &txtQty, &TxtSatuan, &txtHarga, &TxtBru, &TxtDis,
-                         &TxtHrgTot, &Check2, &bttnAddLine, &BatalLine, &bttnSearch});
+                         &TxtHrgTot, &Check2, &bttnAddLine, &BatalLine});
     for (forms::TextBox* amount : {&txtQty, &txtHarga, &TxtBru, &TxtDis, &TxtHrgTot})
         amount->SetRightAligned(true);
     for (forms::TextBox* shown : {&TxtBru, &TxtHrgTot}) {
@@ -32,9 +31,13 @@ EntryLine::EntryLine(forms::Screen& screen, const EntryLineNames& names)
     txtKodeBrg.SetMaxLength(10);
     // The stock ledger keeps fifty characters of it.
     TxtDiskripsi.SetMaxLength(50);
+}
+
+void EntryLine::HoldSearch(forms::Button& search) {
+    FrameIsiBarang.Hold({&search});
     txtKodeBrg.SetToolTip("F5, or Enter on an empty code, lists the products");
-    bttnSearch.SetToolTip("List of products");
-    bttnSearch.SetTabStop(false);
+    search.SetToolTip("List of products");
+    search.SetTabStop(false);
 }
 
 void EntryLine::ClearLine() {

@@ -17,12 +17,13 @@ struct EntryLineNames {
     std::string_view gross = "Brutto";
     std::string_view discount = "Disc (Rp)";
     std::string_view cancelButton = "cmdBatalLine";
-    std::string_view searchButton = "bttnSearch";
 };
 
 struct EntryLine {
     explicit EntryLine(forms::Screen& screen, const EntryLineNames& names = {});
 
+    // Takes in the button that lists the products, on a screen that has one.
+    void HoldSearch(forms::Button& search);
     // Texts to "", amounts to "0".
     void ClearLine();
     bool IsShown() const { return FrameIsiBarang.Visible(); }
@@ -33,7 +34,7 @@ struct EntryLine {
     forms::ComboBox TxtSatuan;
     forms::TextBox txtHarga, TxtBru, TxtDis, TxtHrgTot;
     forms::CheckBox Check2; // shows whether the product is a service
-    forms::Button bttnAddLine, BatalLine, bttnSearch;
+    forms::Button bttnAddLine, BatalLine;
 };
 
 // The three units of the product on the entry line, counted from 1: what the line may be sold or bought in.

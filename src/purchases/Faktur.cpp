@@ -56,17 +56,17 @@ Faktur::Faktur(Services& services)
       TxtJTP(*this, "TxtJTP", "Due Date"),
       supplier_(*this),
       bttnSearch(*this, "bttnSearch(0)", "..."),
-      line_(*this, {.code = "Proudct ID",
-                    .gross = "Bruto",
-                    .discount = "Disc (%)",
-                    .cancelButton = "bttnBatalLine",
-                    .searchButton = "bttnSearch(1)"}),
+      line_(
+          *this,
+          {.code = "Proudct ID", .gross = "Bruto", .discount = "Disc (%)", .cancelButton = "bttnBatalLine"}),
+      bttnSearchProduct(*this, "bttnSearch(1)", "..."),
       OrderGrid(*this, Lines()),
       boxes_(*this, document::Tax::None),
       frmCari(*this, Search()),
       GridCari(*this) {
     TxtNoFaktur.SetMaxLength(12);
     txtFaksup.SetMaxLength(30);
+    line_.HoldSearch(bttnSearchProduct);
     bttnSearch.SetToolTip("List of suppliers");
     bttnSearch.SetTabStop(false);
 
@@ -90,7 +90,7 @@ Faktur::Faktur(Services& services)
     line_.TxtDis.onLeave = [this] { ShowAmounts("#,##0"); };
     line_.bttnAddLine.onClick = [this] { AddLine(); };
     line_.BatalLine.onClick = [this] { CancelLine(); };
-    line_.bttnSearch.onClick = [this] { ListProducts(); };
+    bttnSearchProduct.onClick = [this] { ListProducts(); };
 
     OrderGrid.onClick = [this] { OpenRow(); };
     frmCari.onExecute = [this] { frmCari.Execute(Data(), services_.regional); };
@@ -125,7 +125,7 @@ void Faktur::PreviewKeyDown(forms::Key& key) {
     if (at == &OrderGrid && key.Is(KeyCode::Enter))
         act(&Faktur::OpenRow);
     else if (at == &OrderGrid && key.Is(KeyCode::Delete))
-        act(&Faktur::RemoveRow);
+        act(&Faktur::DeleteRow);
     else if (at->Container() == &line_.FrameIsiBarang && key.Is(KeyCode::Escape))
         act(&Faktur::CancelLine);
     else if (at == &supplier_.TxtKodeSup && key.Is(KeyCode::Escape))

@@ -26,6 +26,7 @@ private:
     purchases::SupplierFields supplier_;
     forms::Button bttnSearch;
     document::EntryLine line_;
+    forms::Button bttnSearchProduct; // bttnSearch(1)
     document::OrderLines OrderGrid;
     document::TotalBoxes boxes_;
     document::SearchPanel frmCari;
@@ -63,8 +64,8 @@ private:
     void AddLine();
     bool LineIsSound();
     void OpenRow();
-    void RemoveRow();
-    void CancelLine();
+    void CancelLine() { PurchaseScreen::CancelLine(line_, OrderGrid); }
+    void DeleteRow() { RemoveRow(OrderGrid); }
     void RecalcTotals();
 
     // --- The data ---

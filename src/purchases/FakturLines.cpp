@@ -16,7 +16,7 @@ void Faktur::CodeLeft() {
     // A blank code is nothing to look for when the person has gone to another field.
     if (Trim(line_.txtKodeBrg.Text()).empty() && !MovingOn()) return;
     if (!ChooseProduct())
-        SetFocus(line_.bttnSearch);
+        SetFocus(bttnSearchProduct);
     else if (MovingOn())
         SetFocus(line_.txtQty);
 }
@@ -120,29 +120,12 @@ void Faktur::AddLine() {
 
 void Faktur::OpenRow() {
     const int row = OrderGrid.Row();
-    if (Browsing() || row < 1 || !line_.bttnAddLine.Enabled()) return;
+    if (Browsing() || row < 1) return;
     line_.ClearLine();
     if (OrderGrid.Cell(row, purchases::Code) == "ID") return;
-    const auto fine = [&](int column) { return Masked(CellNumber(OrderGrid, row, column), Fine); };
     line_.bttnAddLine.SetCaption(OrderGrid.IsFilled(row) ? "&Edit" : "&Add");
-    line_.FrameIsiBarang.SetVisible(true);
-    line_.txtKodeBrg.SetText(OrderGrid.Cell(row, purchases::Code));
-    line_.TxtDiskripsi.SetText(OrderGrid.Cell(row, purchases::Description));
-    line_.txtQty.SetText(fine(purchases::Quantity));
-    line_.TxtSatuan.SetText(OrderGrid.Cell(row, purchases::Unit));
-    line_.txtHarga.SetText(fine(purchases::Price));
-    line_.TxtBru.SetText(fine(purchases::Gross));
-    line_.TxtDis.SetText(fine(purchases::Discount));
-    line_.TxtHrgTot.SetText(fine(purchases::Net));
+    ShowLine(line_, OrderGrid, row);
     SetFocus(line_.txtKodeBrg);
-}
-
-void Faktur::RemoveRow() { PurchaseScreen::RemoveRow(OrderGrid); }
-
-void Faktur::CancelLine() {
-    line_.ClearLine();
-    line_.FrameIsiBarang.SetVisible(false);
-    SetFocus(OrderGrid);
 }
 
 void Faktur::RecalcTotals() {

@@ -4,16 +4,12 @@
 
 #include "purchases/Faktur.h"
 
-#include "stock/Ledger.h"
-
 namespace varnik {
 
 void Faktur::PostFaktur() {
     const document::Hourglass hourglass(Desk());
     const std::string number = TxtNoFaktur.Text(), code = supplier_.TxtKodeSup.Text();
-    Guard guard(Desk(), "");
-    guard.ShowDescriptionAlone();
-    guard.Run([&](Guard& step) {
+    Guarded([&](Guard& step) {
         ado::Recordset supplier, purchase, detail;
         bool known = false;
         step.Step(
@@ -77,7 +73,7 @@ void Faktur::PostLine(Guard& step, ado::Recordset& detail, int row, const std::s
 void Faktur::PostStock(Guard& step, ado::Recordset& product, const purchases::PurchaseLine& line,
                        const std::string& memo) {
     const auto number = [&](const char* column) { return Amount(product, column); };
-    double cost = 0, average = 0, onHand = 0;
+    double cost = 0, average = 0;
     bool service = false;
     step.Step([&] { cost = line.Cost(); });
     step.Step([&] {
@@ -105,19 +101,16 @@ void Faktur::PostStock(Guard& step, ado::Recordset& product, const purchases::Pu
     fillUnit("Satuan", "Pecahan");
     step.PutRow(product, {{"HargaBeli", cost}});
     if (service) return;
-    Value type;
-    step.Step([&] { type = product["JenisBrg"]; });
-    step.Step([&] { onHand = number("OnHand"); });
-    stock::AddMovement(step, ledger_,
-                       {.NoJurnal = stock::movement::Purchase,
-                        .NoRef = TxtNoFaktur.Text(),
-                        .Tanggal = TxtTglFaktur.Date(),
-                        .Memo = memo,
-                        .goods = {line.KodeBrg, line.Diskripsi, type, line.Satuan, line.Qty2},
-                        .Qty1 = line.Qty,
-                        .Harga1 = cost,
-                        .QtySisa = line.Base(),
-                        .Saldo = onHand});
+    stock::Movement movement = MovementOf(step, product, line);
+    movement.NoJurnal = stock::movement::Purchase;
+    movement.NoRef = TxtNoFaktur.Text();
+    movement.Tanggal = TxtTglFaktur.Date();
+    movement.Memo = memo;
+    // Wanted: the quantity is that of the line's unit, the open rest is in base units.
+    movement.Qty1 = line.Qty;
+    movement.Harga1 = cost;
+    movement.QtySisa = line.Base();
+    stock::AddMovement(step, ledger_, movement);
 }
 
 } // namespace varnik

@@ -10,6 +10,7 @@
 #include "document/Totals.h"
 #include "purchases/PurchaseLine.h"
 #include "purchases/SupplierFields.h"
+#include "stock/Ledger.h"
 
 namespace varnik::purchases {
 
@@ -43,6 +44,16 @@ protected:
     double CellNumber(const document::OrderLines& grid, int row, int column) const {
         return Number(grid.Cell(row, column));
     }
+
+    // The row's texts in the entry line, which shows.
+    void ShowLine(document::EntryLine& line, const document::OrderLines& grid, int row) const;
+    void CancelLine(document::EntryLine& line, document::OrderLines& grid);
+
+    // A routine in which a failing step shows the description alone, with Abort, Retry and Ignore.
+    void Guarded(const std::function<void(Guard&)>& routine) const;
+    // What all ledger rows of a purchase or a return have in common: goods of the line, type and stock of
+    // the product's row. Purchases book on the in side, goods that leave as a negative quantity.
+    stock::Movement MovementOf(Guard& step, ado::Recordset& product, const PurchaseLine& line) const;
 
     PurchaseSums sums_;
 };

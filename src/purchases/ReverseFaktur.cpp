@@ -5,8 +5,6 @@
 
 #include "purchases/Faktur.h"
 
-#include "stock/Ledger.h"
-
 namespace varnik {
 
 void Faktur::ReverseFaktur(const std::string& number) {
@@ -63,7 +61,7 @@ void Faktur::ReverseLine(Guard& step, ado::Recordset& detail, const std::string&
     if (!known) return;
 
     const auto value = [&](const char* column) { return Amount(product, column); };
-    double cost = 0, average = 0, onHand = 0;
+    double cost = 0, average = 0;
     const double quantity = line.Costed();
     step.Step([&] { cost = line.Cost(); });
     step.Step([&] {
@@ -80,19 +78,15 @@ void Faktur::ReverseLine(Guard& step, ado::Recordset& detail, const std::string&
                        " Where NoJurnal ='11' and NoRef  ='" + Trim(number) + "' and KodeBrg = '" +
                        line.KodeBrg + "'");
     });
-    Value type;
-    step.Step([&] { type = product["JenisBrg"]; });
-    step.Step([&] { onHand = value("OnHand"); });
-    // Wanted: booked on the in side as a negative quantity, on the date that the screen shows.
-    stock::AddMovement(step, ledger_,
-                       {.NoJurnal = stock::movement::PurchaseDeleted,
-                        .NoRef = TxtNoFaktur.Text(),
-                        .Tanggal = TxtTglFaktur.Date(),
-                        .Memo = memo,
-                        .goods = {line.KodeBrg, line.Diskripsi, type, line.Satuan, line.Qty2},
-                        .Qty1 = -line.Base(),
-                        .Harga1 = cost,
-                        .Saldo = onHand});
+    // Wanted: on the date that the screen shows, which is not the purchase's.
+    stock::Movement movement = MovementOf(step, product, line);
+    movement.NoJurnal = stock::movement::PurchaseDeleted;
+    movement.NoRef = TxtNoFaktur.Text();
+    movement.Tanggal = TxtTglFaktur.Date();
+    movement.Memo = memo;
+    movement.Qty1 = -line.Base();
+    movement.Harga1 = cost;
+    stock::AddMovement(step, ledger_, movement);
 }
 
 } // namespace varnik

@@ -63,6 +63,7 @@ Invoice::Invoice(Services& services)
       TxtAlamat2(*this, "TxtAlamat2"),
       TxtAlamat3(*this, "TxtAlamat3"),
       line_(*this),
+      bttnSearch(*this, "bttnSearch", "..."),
       OrderGrid(*this, Lines()),
       boxes_(*this),
       TxtSaldo(*this, "TxtSaldo", "Balance :"),
@@ -70,6 +71,7 @@ Invoice::Invoice(Services& services)
       frmCari(*this, Search()),
       GridCari(*this) {
     FrameBawah.Hold({&bttnBayar});
+    line_.HoldSearch(bttnSearch);
     document::MakeAmountBox(TxtSaldo);
     TxtPPN.SetRightAligned(true);
     TxtNoInvoice.SetMaxLength(12);
@@ -99,7 +101,7 @@ Invoice::Invoice(Services& services)
     line_.TxtDis.onLeave = [this] { DiscountLeft(); };
     line_.bttnAddLine.onClick = [this] { AddLine(); };
     line_.BatalLine.onClick = [this] { CancelLine(); };
-    line_.bttnSearch.onClick = [this] { ListProducts(); };
+    bttnSearch.onClick = [this] { ListProducts(); };
 
     OrderGrid.onDoubleClick = [this] { TakeLineBack(); };
     bttnBayar.onClick = [this] { OpenReceipt(); };

@@ -32,6 +32,7 @@ private:
     forms::DatePicker TxtTglInvoice;
     forms::TextBox txtCusPO, TxtJTP, TxtPPN, TxtKodeCus, TxtNamaCus, TxtAlamat1, TxtAlamat2, TxtAlamat3;
     document::EntryLine line_;
+    forms::Button bttnSearch;
     document::OrderLines OrderGrid;
     document::TotalBoxes boxes_;
     forms::TextBox TxtSaldo;

@@ -27,7 +27,7 @@ void Invoice::CodeLeft() {
     const bool blank = Trim(line_.txtKodeBrg.Text()).empty();
     if (blank && !MovingOn()) return;
     if (!ChooseProduct()) {
-        if (line_.bttnSearch.IsShown()) SetFocus(line_.bttnSearch);
+        if (bttnSearch.IsShown()) SetFocus(bttnSearch);
     } else if (MovingOn())
         SetFocus(line_.txtQty);
 }
