@@ -25,6 +25,10 @@ void FakturRetur::OpenRow() {
     line_.ClearLine();
     line_.bttnAddLine.SetCaption("&Edit");
     ShowLine(line_, OrderGrid, row);
+    ado::Recordset product;
+    const std::string code = Trim(line_.txtKodeBrg.Text());
+    line_.Check2.SetChecked(Found(product, "Select * From Produk Where KodeBrg='" + code + "'") &&
+                            Yes(product["Jasa"]));
     SetFocus(line_.txtQty);
 }
 

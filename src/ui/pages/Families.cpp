@@ -77,20 +77,22 @@ Page DocumentPage(std::string screen, DocumentParts parts) {
                Inside("FrameAtas", Row({Button("bttnSave").Primary(), Button("bttnCancel"), Spring()}))});
     Node foot =
         Row({Inside(std::move(parts.entryFrame), std::move(parts.entry)).Share(1), std::move(parts.totals)});
-    Page page{std::move(screen),
-              Family::Document,
+    Page page{std::move(screen), Family::Document,
               Column({std::move(tools), std::move(parts.header),
-                      Table(std::move(parts.lines), 8).Label("Lines"), std::move(foot)}),
-              {SearchPanelOver()}};
-    page.overlays.push_back(
-        {parts.lookup, Field(parts.lookup).Label("Look-up list"), Overlay::Where::UnderField, 460, 300});
+                      Table(std::move(parts.lines), 8).Label("Lines"), std::move(foot)})};
+    if (parts.search) page.overlays.push_back(SearchPanelOver());
+    if (!parts.lookup.empty())
+        page.overlays.push_back(
+            {parts.lookup, Field(parts.lookup).Label("Look-up list"), Overlay::Where::UnderField, 460, 300});
     return page;
 }
 
 Node GoodsEntry(std::string search, std::string cancel) {
+    std::vector<Node> product{Field("txtKodeBrg", 13).Above(), Field("TxtDiskripsi", 24).Above().Share(1)};
+    if (!search.empty()) product.push_back(Column({Heading(" "), Button(std::move(search))}));
+    product.push_back(Column({Heading(" "), Field("Check2")}));
     return Column({
-        Row({Field("txtKodeBrg", 13).Above(), Field("TxtDiskripsi", 24).Above().Share(1),
-             Column({Heading(" "), Button(std::move(search))}), Column({Heading(" "), Field("Check2")})}),
+        Row(std::move(product)),
         Row({Field("txtQty", 7).Above(), Field("TxtSatuan", 8).Above(), Field("txtHarga", 11).Above(),
              Field("TxtBru", 11).Above(), Field("TxtDis", 11).Above(), Field("TxtHrgTot", 11).Above(),
              Spring()}),

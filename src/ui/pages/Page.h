@@ -106,12 +106,13 @@ struct DocumentParts {
     std::vector<std::string> furtherButtons{}; // after Print, while browsing
     std::string lines = "OrderGrid";
     std::string entryFrame = "FrameIsiBarang";
-    std::string lookup = "GridCari";
+    std::string lookup = "GridCari"; // "" for none
+    bool search = true;              // has a search panel
 };
 Page DocumentPage(std::string screen, DocumentParts parts);
 
-// The entry line of a document of goods, between its button for the list of products and the one that gives
-// up.
+// The entry line of a document of goods, with its button for the list of products ("" for none) and the one
+// that gives up.
 Node GoodsEntry(std::string search, std::string cancel);
 // The second and third line of an address in one row.
 Node AddressRest(std::string second);

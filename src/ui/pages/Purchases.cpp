@@ -34,8 +34,22 @@ Page FakturPage() {
         "Faktur", {std::move(header), GoodsEntry("bttnSearch(1)", "bttnBatalLine"), Totals(), Navigation});
 }
 
+Page FakturReturPage() {
+    Node header = Row({Card("", Form({{Field("TxtNoFaktur", 15)},
+                                      {Field("TxtTglFaktur", 15)},
+                                      {Field("txtNoPO", 15)},
+                                      {Field("TxtTglPO", 15)}})),
+                       Supplier("txtAlamat2", Field("TxtKodeSup", 15))});
+    return DocumentPage("FakturRetur", {.header = std::move(header),
+                                        .entry = GoodsEntry("", "bttnBatalLine"),
+                                        .totals = Totals(),
+                                        .furtherButtons = Navigation,
+                                        .lookup = "",
+                                        .search = false});
+}
+
 } // namespace
 
-std::vector<Page> PurchasesPages() { return {FakturPage()}; }
+std::vector<Page> PurchasesPages() { return {FakturPage(), FakturReturPage()}; }
 
 } // namespace varnik::ui

@@ -33,6 +33,13 @@ const std::vector<Case> Cases = {
 000000004100|INV/2026/77|2026-11-22|2026-12-22|5050000|0000000001|80|SAK|58000|4640000|PT Pabrik Semen|Jl. Raya Padalarang 100|||Padalarang|Semen Portland 40 kg
 000000004100|INV/2026/77|2026-11-22|2026-12-22|5050000|0000000002|2.5|M3|200000|410000|PT Pabrik Semen|Jl. Raya Padalarang 100|||Padalarang|Pasir beton
 )"},
+    {"PORetur",
+     "PORetur.rpt",
+     {},
+     R"(NoFaktur|TglFaktur@|KodeBrg|Qty#|Satuan|Total2#|NamaSup|Alamat_1|Alamat_2|Alamat_3|Kota|NamaBrg|KodeSup|Ket2
+000000000700|2026-11-25|0000000001|3|SAK|174000|PT Pabrik Semen|Jl. Raya Padalarang 100|||Padalarang|Semen Portland 40 kg|0000000001|000000004100
+000000000700|2026-11-25|0000000002|0.5|M3|82000.50|PT Pabrik Semen|Jl. Raya Padalarang 100|||Padalarang|Pasir beton|0000000001|000000004100
+)"},
     {"persediaan",
      "persediaan.rpt",
      {},
