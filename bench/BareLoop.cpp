@@ -22,7 +22,7 @@ std::vector<sqlite3_int64> RowNumbers(sqlite3* engine, const char* sql) {
 BareLoop::BareLoop(const std::filesystem::path& database) {
     if (sqlite3_open(database.c_str(), &engine_) != SQLITE_OK)
         throw std::runtime_error(sqlite3_errmsg(engine_));
-    sqlite3_exec(engine_, "PRAGMA journal_mode=WAL; PRAGMA synchronous=OFF", nullptr, nullptr, nullptr);
+    sqlite3_exec(engine_, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
     header_ =
         Prepare("INSERT INTO Invoice (NoInvoice,CusPO,TglInvoice,TglJtp,KodeCus,Ket,Bruto,Netto,PPN,Disc,"
                 "Total,Bayar,Saldo,NoUser,nPPN,Terbilang) VALUES (?1,'','2026-11-22','2026-11-22',"
@@ -68,6 +68,13 @@ sqlite3_stmt* BareLoop::Prepare(const std::string& sql) {
 void BareLoop::Step(sqlite3_stmt* statement) {
     if (sqlite3_step(statement) != SQLITE_DONE) throw std::runtime_error(sqlite3_errmsg(engine_));
     sqlite3_reset(statement);
+}
+
+void BareLoop::Sync() {
+    sqlite3_file* log = nullptr;
+    sqlite3_file_control(engine_, "main", SQLITE_FCNTL_JOURNAL_POINTER, &log);
+    if (!log || !log->pMethods || log->pMethods->xSync(log, SQLITE_SYNC_NORMAL) != SQLITE_OK)
+        throw std::runtime_error("the log was not synced");
 }
 
 void BareLoop::PostSale(int lines) {

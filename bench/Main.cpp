@@ -54,7 +54,13 @@ void RegisterShop(const std::string& size, BenchShop& shop) {
             on.EnterSale(lines);
             return Seconds([&] { on.Save(); });
         });
-        Register("bare " + label, shop, 20,
+        Register("bare " + label, shop, 20, [lines](BenchShop& on) {
+            return Seconds([&] {
+                on.Bare().PostSale(lines);
+                on.Bare().Sync();
+            });
+        });
+        Register("bare unsynced " + label, shop, 20,
                  [lines](BenchShop& on) { return Seconds([&] { on.Bare().PostSale(lines); }); });
     }
     Register("open Invoice, " + size, shop, 20,
@@ -105,6 +111,7 @@ int main(int argc, char** argv) {
     for (const std::string size : {"small", "large"}) {
         Ratio(reporter.medians, "post 1 line, " + size, "bare 1 line, " + size, "-");
         Ratio(reporter.medians, "post 10 lines, " + size, "bare 10 lines, " + size, "at most 2");
+        Ratio(reporter.medians, "post 10 lines, " + size, "bare unsynced 10 lines, " + size, "-");
     }
     Ratio(reporter.medians, "post 10 lines, large", "post 10 lines, small", "at most 1.3");
     Ratio(reporter.medians, "open Invoice, large", "open Invoice, small", "flat, under 20 ms");
