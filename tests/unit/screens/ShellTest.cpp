@@ -1,6 +1,7 @@
 // What the console cannot see of the shell: the pressed look of labels, the system information tool.
 
 #include "platform/registry/Registry.h"
+#include "shell/Dialog.h"
 #include "shell/MenuRows.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMainCode.h"
@@ -36,6 +37,15 @@ TEST(MainWindow, MenuKeysAndScreensAreUnique) {
     }
     EXPECT_EQ(shown, 27);
     EXPECT_EQ(screens.size(), 23U);
+}
+
+TEST(Confirmation, EnterAndEscapeCloseIt) {
+    TemporaryShop shop;
+    for (const forms::KeyCode key : {forms::KeyCode::Enter, forms::KeyCode::Escape}) {
+        shop.desktop.Show(std::make_unique<Dialog>(shop.services));
+        shop.desktop.FindScreen("Dialog")->PressKey({.code = key});
+        EXPECT_EQ(shop.desktop.FindScreen("Dialog"), nullptr);
+    }
 }
 
 TEST(About, TheSystemInformationToolIsTakenFromEitherKey) {
