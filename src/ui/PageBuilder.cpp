@@ -101,7 +101,7 @@ void PageBuilder::Dress(Binding& binding, const Node& node) {
         widget.setFixedSize(node.width > 0 ? node.width : 64, node.height > 0 ? node.height : 64);
         break;
     case Kind::Button:
-        widget.setMinimumWidth(control.Caption() == "..." ? 44 : 92);
+        widget.setMinimumWidth(control.Caption().size() <= 3 ? 44 : 92); // "...", "|<"
         break;
     default:
         break;

@@ -64,12 +64,11 @@ std::vector<Page> MasterPages() {
                              Field("txtSaldoAwal", 16), Field("txtSaldoAkhir", 16), Field("txtket", 24)});
     Node bank = Column({
         Card("", Form({{Field("txtRekID", 6)},
-                       {Field("TxtNamaBank", 30)},
-                       {Field("txtNoRek", 24)},
-                       {Field("txtJenisRek", 16)},
-                       {Field("txtNamaPemilik", 30)}})),
-        Card("Balance", Form({{Field("txtSaldoAwal", 16)}, {Field("txtSaldoAkhir", 16)}})),
-        Card("Use", Form({{Field("txtket", 30)}, {Field("Check1")}})),
+                       {Field("TxtNamaBank").Span(2)},
+                       {Field("txtNoRek", 24), Field("txtJenisRek")},
+                       {Field("txtNamaPemilik").Span(2)}})),
+        Row({Card("Balance", Form({{Field("txtSaldoAwal", 16)}, {Field("txtSaldoAkhir", 16)}})),
+             Card("Use", Form({{Field("txtket")}, {Field("Check1")}})).Share(1)}),
     });
     return {MasterPage("fProduk", std::move(product)),
             MasterPage("fCustomer", std::move(customer)),
