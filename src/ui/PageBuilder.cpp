@@ -22,9 +22,10 @@ using forms::Kind;
 
 namespace {
 
-constexpr int Gap = 10;    // between neighbours
-constexpr int Margin = 14; // within a card
-constexpr int Edge = 16;   // of the window
+constexpr int ToolRow = 42; // stays in reach above a panel
+constexpr int Gap = 10;     // between neighbours
+constexpr int Margin = 14;  // within a card
+constexpr int Edge = 16;    // of the window
 
 int CharactersOf(Kind kind, int asked) {
     if (asked > 0) return asked;
@@ -368,12 +369,21 @@ void PageBuilder::PlaceLeftovers(QBoxLayout& below) {
     }
 }
 
+QSize PageBuilder::RoomForOverlays(const Page& page) const {
+    QSize room;
+    for (const Overlay& overlay : page.overlays) {
+        const Binding* binding = binder_.Find(overlay.control);
+        if (!binding || !binding->Widget() || !binding->Widget()->layout()) continue;
+        room = room.expandedTo(binding->Widget()->layout()->totalMinimumSize());
+    }
+    return room + QSize(2 * Edge, 2 * Edge + ToolRow);
+}
+
 void PageBuilder::PlaceOverlays(const Page& page) {
     for (const Overlay& overlay : page.overlays) {
         Binding* binding = binder_.Find(overlay.control);
         if (!binding || !binding->Widget()) continue;
-        constexpr int toolRow = 42; // stays in reach
-        const QRect room = window_.rect().adjusted(Edge, Edge + toolRow, -Edge, -Edge);
+        const QRect room = window_.rect().adjusted(Edge, Edge + ToolRow, -Edge, -Edge);
         const QSize size(overlay.width > 0 ? overlay.width : room.width(),
                          overlay.height > 0 ? overlay.height : room.height());
         binding->Widget()->setGeometry(QRect(room.topLeft(), size.boundedTo(room.size())));

@@ -25,6 +25,8 @@ public:
     const QStringList& Unknown() const { return unknown_; }
     const QStringList& Unplaced() const { return unplaced_; }
 
+    // The least size of window in which every overlay has the room that it needs.
+    QSize RoomForOverlays(const Page& page) const;
     // Gives the overlays the place they have in a window of the present size.
     void PlaceOverlays(const Page& page);
 

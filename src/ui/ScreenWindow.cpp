@@ -53,7 +53,7 @@ void ScreenWindow::Open(bool modal) {
     binder_->RefreshAll();
 
     ensurePolished();
-    resize(sizeHint());
+    resize(page_ ? sizeHint().expandedTo(builder.RoomForOverlays(*page_)) : sizeHint());
     SettleLayouts(*this);
     if (page_) builder.PlaceOverlays(*page_);
     for (QObject* child : children())
