@@ -31,3 +31,8 @@ for _, c in ipairs {
   sql("INSERT INTO Customer VALUES ('" .. c[1] .. "','001','" .. c[2] .. "','" .. c[3] .. "','" .. c[4] ..
       "','','','','','','',0,0,14,'',0,0,'')")
 end
+
+for _, a in ipairs {{"1", "Cash", "", "True"}, {"2", "Bank Nusa", "123-456-789", "False"}} do
+  sql("INSERT INTO Bank (RekID,NamaBank,NamaPemilik,NoRek,SaldoAwal,SaldoAkhir,DefaultKas) VALUES ('" .. a[1] ..
+      "','" .. a[2] .. "','Kopi Kita','" .. a[3] .. "',0,0," .. a[4] .. ")")
+end

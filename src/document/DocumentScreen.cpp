@@ -124,12 +124,6 @@ void DocumentScreen::ShowLines(Guard& step, OrderLines& grid, ado::Recordset& li
     }
 }
 
-ReportRequest DocumentScreen::ReportOf(const std::string& file) const {
-    ReportRequest request;
-    request.ReportFileName = Desk().ProgramFolder().string() + "\\Report" + file;
-    return request;
-}
-
 bool DocumentScreen::Found(ado::Recordset& rows, const std::string& sql) {
     bool found = false;
     Resume([&] {

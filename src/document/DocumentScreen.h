@@ -70,16 +70,11 @@ protected:
     // the column of the description.
     void ShowLines(Guard& step, OrderLines& grid, ado::Recordset& lines, const char* name,
                    const LineMasks& masks = {});
-    // A request for one of the printed documents in the folder of reports ("\\Invoice.rpt").
-    ReportRequest ReportOf(const std::string& file) const;
 
     // The connection of the screen's life: look-ups and lists.
     ado::Connection& Data() { return connection_; }
     // Opens a look-up. A statement that fails (a quote in a field) finds nothing, as on every screen.
     bool Found(ado::Recordset& rows, const std::string& sql);
-
-    // A yes/no column.
-    bool Yes(const Value& value) const { return NullToNumber(value, services_.regional) != 0; }
 
 private:
     void Save();

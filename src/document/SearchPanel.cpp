@@ -51,12 +51,13 @@ void SearchPanel::Execute(ado::Connection& connection, const Regional& regional)
     const auto search = [&] {
         ado::Recordset rows(Statement(), connection, ado::CursorType::Static);
         const int columns = static_cast<int>(layout_.columns.size());
+        const int amountsEnd = columns - layout_.textsAfter;
         for (; !rows.Eof(); rows.MoveNext()) {
             std::string line;
             for (int column = 0; column < columns; ++column) {
                 const Value value = rows[column];
                 if (column > 0) line += '\t';
-                line += column < columns - layout_.amounts
+                line += column < amountsEnd - layout_.amounts || column >= amountsEnd
                             ? NullToText(value, regional)
                             : FormatNumber(NullToNumber(value, regional), "#,##0", regional);
             }

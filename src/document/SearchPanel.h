@@ -25,6 +25,7 @@ struct SearchLayout {
     std::span<const SearchChoice> choices;
     std::vector<forms::GridColumn> columns;
     int amounts = 0;         // how many of the last columns are amounts, shown as "#,##0"
+    int textsAfter = 0;      // columns behind the amounts that are none
     bool failsAloud = false; // a statement that fails shows its failure
 };
 

@@ -1,6 +1,7 @@
 #include "sales/Invoice.h"
 
 #include "data/Numbering.h"
+#include "sales/Bayar.h"
 
 namespace varnik {
 
@@ -203,8 +204,11 @@ void Invoice::EntryEnded() { line_.bttnAddLine.SetVisible(false); }
 
 void Invoice::OpenReceipt() {
     if (!Sess().RightTambah || !(sums_.SumBayar < sums_.SumTotal)) return;
-    const document::Resting resting(*this, bttnBayar);
-    OpenScreen(services_, "Bayar", "Customer Receive");
+    bttnBayar.SetEnabled(false);
+    Desk().ShowModal(std::make_unique<Bayar>(services_, Trim(TxtNoInvoice.Text())), [this] {
+        bttnBayar.SetEnabled(true);
+        if (bttnBayar.CanFocus()) SetFocus(bttnBayar);
+    });
 }
 
 // ---- The header: each field goes on to the one after it ----

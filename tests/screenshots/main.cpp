@@ -51,6 +51,7 @@ public:
         }
         Product();
         Invoice();
+        Receipt();
     }
 
 private:
@@ -98,6 +99,19 @@ private:
         Click("Invoice", "bttnFind");
         Click("Invoice", "cmdExecute");
         Both("Invoice", "search");
+        Click("Invoice", "cmdTutup");
+    }
+
+    // The receipt for the invoice that stands on its screen.
+    void Receipt() {
+        Click("Invoice", "bttnBayar");
+        Settle([&] { return Window("Bayar"); });
+        Keys("Bayar", "TxtNamaPenerima", "Tini");
+        Both("Bayar");
+        Click("Bayar", "bttnSave");
+        Click("Bayar", "bttnPrint");
+        Preview("Bayar-print");
+        Click("Bayar", "bttnClose");
     }
 
     ui::ScreenWindow* Window(const std::string& screen) { return desktop_.WindowOf(screen); }

@@ -33,6 +33,14 @@ protected:
     bool Numeric(std::string_view text) const { return IsNumeric(text, services_.regional); }
     std::string SqlDate(DateTime date) const { return FormatDate(date, services_.session.DateMask); }
     DateTime Today() const { return DateTime{services_.desktop.Now().day, 0}; }
+    // A yes/no column.
+    bool Yes(const Value& value) const { return NullToNumber(value, services_.regional) != 0; }
+    // A request for one of the printed documents in the folder of reports ("\\Invoice.rpt").
+    ReportRequest ReportOf(const std::string& file) const {
+        ReportRequest request;
+        request.ReportFileName = Desk().ProgramFolder().string() + "\\Report" + file;
+        return request;
+    }
 
     // Boxes in one line. The title is the application's unless another is given.
     void Say(const std::string& text, Icon icon = Icon::None, const std::string& title = "Varnik") const {

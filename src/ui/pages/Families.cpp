@@ -44,13 +44,36 @@ Node Stack(std::vector<Node> panels) { return {Node::Kind::Stack, "", std::move(
 Node Heading(std::string text) { return {Node::Kind::Heading, std::move(text), {}, {}}; }
 Node Spring() { return {Node::Kind::Spring, "", {}, {}}; }
 
+namespace {
+
+Node SearchContent(std::string criterion, std::string value, std::string execute, std::string take,
+                   std::string found) {
+    return Column(
+        {Row({Field(std::move(criterion), 22).Label("Search by").Above(),
+              Field(std::move(value), 30).Label("Value").Above(),
+              Column({Heading(" "), Row({Button(std::move(execute)).Primary(), Button(std::move(take))})}),
+              Spring()}),
+         Table(std::move(found), 10).Label("Found")});
+}
+
+Node DocumentTools(std::vector<std::string> furtherButtons) {
+    std::vector<Node> browse{Button("bttnNew").Primary(), Button("bttnDel"), Button("bttnFind"),
+                             Button("bttnPrint")};
+    for (std::string& further : furtherButtons) browse.push_back(Button(std::move(further)));
+    browse.push_back(Spring());
+    browse.push_back(Button("bttnClose"));
+    return Stack({Inside("FrameBawah", Row(std::move(browse))),
+                  Inside("FrameAtas", Row({Button("bttnSave").Primary(), Button("bttnCancel"), Spring()}))});
+}
+
+} // namespace
+
 Overlay SearchPanelOver() {
-    Node content = Column(
-        {Row({Field("txtKreteria", 22).Label("Search by").Above(),
-              Field("txtValue", 30).Label("Value").Above(),
-              Column({Heading(" "), Row({Button("cmdExecute").Primary(), Button("cmdTutup")})}), Spring()}),
-         Table("grdCari", 10).Label("Found")});
-    return {"frmCari", std::move(content)};
+    return {"frmCari", SearchContent("txtKreteria", "txtValue", "cmdExecute", "cmdTutup", "grdCari")};
+}
+
+Overlay SecondSearchOver() {
+    return {"FrmCari2", SearchContent("TxtKreteria2", "txtValue2", "bttnExecute2", "bttnTutup2", "grdCari2")};
 }
 
 Page MasterPage(std::string screen, Node fields, bool searchPanel) {
@@ -67,24 +90,25 @@ Page MasterPage(std::string screen, Node fields, bool searchPanel) {
 }
 
 Page DocumentPage(std::string screen, DocumentParts parts) {
-    std::vector<Node> browse{Button("bttnNew").Primary(), Button("bttnDel"), Button("bttnFind"),
-                             Button("bttnPrint")};
-    for (std::string& further : parts.furtherButtons) browse.push_back(Button(std::move(further)));
-    browse.push_back(Spring());
-    browse.push_back(Button("bttnClose"));
-    Node tools =
-        Stack({Inside("FrameBawah", Row(std::move(browse))),
-               Inside("FrameAtas", Row({Button("bttnSave").Primary(), Button("bttnCancel"), Spring()}))});
     Node foot =
         Row({Inside(std::move(parts.entryFrame), std::move(parts.entry)).Share(1), std::move(parts.totals)});
     Page page{std::move(screen), Family::Document,
-              Column({std::move(tools), std::move(parts.header),
+              Column({DocumentTools(std::move(parts.furtherButtons)), std::move(parts.header),
                       Table(std::move(parts.lines), 8).Label("Lines"), std::move(foot)})};
     if (parts.search) page.overlays.push_back(SearchPanelOver());
     if (!parts.lookup.empty())
         page.overlays.push_back(
             {parts.lookup, Field(parts.lookup).Label("Look-up list"), Overlay::Where::UnderField, 460, 300});
     return page;
+}
+
+Page VoucherPage(std::string screen, VoucherParts parts) {
+    return {std::move(screen),
+            Family::Voucher,
+            Column({DocumentTools(std::move(parts.furtherButtons)), std::move(parts.head),
+                    std::move(parts.entry), Table("OrderGrid", 8).Label("Lines"),
+                    Row({Spring(), Heading("Total"), Field("lblJumBAYAR").Title()})}),
+            {SearchPanelOver(), SecondSearchOver()}};
 }
 
 Node GoodsEntry(std::string search, std::string cancel) {

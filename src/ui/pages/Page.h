@@ -111,6 +111,15 @@ struct DocumentParts {
 };
 Page DocumentPage(std::string screen, DocumentParts parts);
 
+// Buttons that take turns above, head, the entry line of a payment over its lines, their sum; two searches.
+struct VoucherParts {
+    Node head, entry;
+    std::vector<std::string> furtherButtons{};
+};
+Page VoucherPage(std::string screen, VoucherParts parts);
+// FrmCari2, the search for the vouchers or returns themselves.
+Overlay SecondSearchOver();
+
 // The entry line of a document of goods, with its button for the list of products ("" for none) and the one
 // that gives up.
 Node GoodsEntry(std::string search, std::string cancel);

@@ -6,11 +6,33 @@ namespace varnik::ui {
 
 namespace {
 
+// The account of a receipt, with how it is read.
+Node AccountOfReceipt() {
+    return Row({Field("TxtRekening", 26), Heading("read by its first character").Quiet(), Spring()});
+}
+
 Node Totals(std::string last) {
     return Card("", Form({{Field("TxtJumBru", 12), Field("TxtJumNetto", 12)},
                           {Field("TxtJumDis", 12), Field("TxtJumPPN", 12)},
                           {Field("txtJumTotal", 14).Total().Label("Total").Span(2)},
                           {Spring(), Field(std::move(last), 12)}}));
+}
+
+Page BayarPage() {
+    Node voucher = Card("", Form({{Field("txtNoBukti", 15)},
+                                  {Field("txtTglJurnal", 15)},
+                                  {Field("TxtCaraBayar", 15)},
+                                  {AccountOfReceipt()},
+                                  {Field("TxtNamaPenerima", 40)},
+                                  {Field("TxtMemo", 40)}}));
+    Node invoice = Card("", Form({{Field("TxtNoInvoice", 15)},
+                                  {Field("TxtKodeCus", 15)},
+                                  {Field("TxtNamaCus", 30)},
+                                  {Field("TxtJumlah", 15)},
+                                  {Field("txtDibayar", 15)},
+                                  {Field("TxtSaldo", 15)}}));
+    return DialogPage("Bayar", Row({std::move(voucher), std::move(invoice)}),
+                      {"bttnSave", "bttnPrint", "bttnClose"});
 }
 
 } // namespace
@@ -28,7 +50,7 @@ std::vector<Page> SalesPages() {
     Page invoice = DocumentPage(
         "Invoice",
         {std::move(header), GoodsEntry("bttnSearch", "cmdBatalLine"), Totals("TxtSaldo"), {"bttnBayar"}});
-    return {invoice};
+    return {std::move(invoice), BayarPage()};
 }
 
 } // namespace varnik::ui

@@ -26,6 +26,13 @@ const std::vector<Case> Cases = {
 000000012300|PO-7|2026-11-22|2026-12-22|1236363.64|123636.36|1360000||0000000001|12|SAK|65000|780000|CV Bangun Persada|Jl. Asia Afrika 5|||Bandung|Semen Portland 40 kg|0|0000000001
 000000012300|PO-7|2026-11-22|2026-12-22|1236363.64|123636.36|1360000||0000000002|2.5|M3|250000|580000|CV Bangun Persada|Jl. Asia Afrika 5|||Bandung|Pasir beton dari Cimalaka, dicuci dan disaring, diantar sampai ke tempat pembangunan|45000|0000000001
 )"},
+    {"BKM2",
+     "BKM2.rpt",
+     {},
+     R"(NoBKM|TglBKM@|CaraBayar|Keterangan|RekID|NoCek|Jumlah#|Penyetor|NamaBank|NoRek
+000000000700|2026-11-22|CHEQUE|Receipt From CV Bangun Persada Inv No.000000012300 Inv No.000000012400|2|CQ-0091|2360000.5|CV Bangun Persada|Bank Nusa|123-456
+000000000700|2026-11-22|CHEQUE|Receipt From CV Bangun Persada Inv No.000000012300 Inv No.000000012400|2|CQ-0091|2360000.5|CV Bangun Persada|Bank Nusa|123-456
+)"},
     {"PO",
      "PO.rpt",
      {},

@@ -1,0 +1,55 @@
+-- A small shop for the scenarios of money and returns: accounts, all tables before and after, and what differs.
+dofile(arg[0]:match ".*/" .. "../support/shop.lua")
+
+function account(row)
+    local defaults = {NamaBank = "Account " .. row.RekID, NamaPemilik = "Shop", NoRek = "1-" .. row.RekID,
+                      SaldoAwal = 0, SaldoAkhir = 0, DefaultKas = false}
+    for key, value in pairs(row) do defaults[key] = value end
+    insert("Bank", defaults)
+end
+
+-- The columns that count, of every table that a sale, a receipt or a return may touch.
+local Touched = {
+    Customer = "KodeCus, SaldoAkhir",
+    Bank = "RekID, SaldoAkhir",
+    BKM = "NoBKM, Jumlah, RekID, Setor, Clear",
+    Invoice = "NoInvoice, Total, Bayar, Saldo",
+    InvoiceBayar = "NoBKM, NoInvoice, KodeCus, Jumlah",
+    InvoiceDetail = "NoInvoice, KodeBrg, Qty, QtyOrder, QtyRetur, HPP",
+    InvoiceRetur = "ReturID, NoInvoice, Total, Bayar, Saldo",
+    InvoiceReturDetail = "ReturID, KodeBrg, Qty, Total, HPP",
+    Produk = "KodeBrg, OnHand, QGudang, HPPRata, HargaJual, HargaBeli",
+    FakturDetail = "NoFaktur, KodeBrg, QtySisa",
+    Persediaan = "NoJurnal, NoRef, KodeBrg, Qty1, Qty2, QtySisa, Saldo",
+    PersediaanJual = "NoInvoice, NoPO, KodeBrg, Qty, Harga",
+    PersediaanRetur = "ReturID, NoPO, KodeBrg, Qty",
+    CustomerSaldo = "*", BankSaldo = "*", JurnalBank = "*", BKK = "*", Supplier = "*", Faktur = "*",
+}
+
+function books()
+    local all = {}
+    for name, columns in pairs(Touched) do all[name] = sql("Select " .. columns .. " From " .. name) end
+    return all
+end
+
+-- What differs between two states of the books, in order: "Invoice 1.Bayar: 0 -> 500", "BKM +1".
+function differences(before, after)
+    local found = {}
+    for name, columns in pairs(Touched) do
+        local names = {}
+        for column in columns:gmatch "[%w_*]+" do names[#names + 1] = column end
+        if #before[name] ~= #after[name] then
+            found[#found + 1] = ("%s %+d"):format(name, #after[name] - #before[name])
+        end
+        for i = 1, math.min(#before[name], #after[name]) do
+            for column = 1, #after[name][i] do
+                local was, is = before[name][i][column], after[name][i][column]
+                if was ~= is then
+                    found[#found + 1] = ("%s %d.%s: %s -> %s"):format(name, i, names[column] or column, was, is)
+                end
+            end
+        end
+    end
+    table.sort(found)
+    return found
+end
