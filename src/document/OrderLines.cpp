@@ -28,6 +28,12 @@ void OrderLines::Write(int row, const std::vector<std::string>& cells) {
 
 void OrderLines::WriteHeadings(const std::vector<std::string>& headings) { Write(0, headings); }
 
+void OrderLines::RemoveCurrentRow() {
+    if (LastRow() == 1) return ClearGrid();
+    RemoveRow(Row());
+    if (IsFilled(LastRow())) Grow();
+}
+
 std::vector<int> OrderLines::RowsOf(std::string_view code) const {
     std::vector<int> found;
     for (int row = 1; row < Rows(); ++row)

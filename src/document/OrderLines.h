@@ -25,6 +25,8 @@ public:
     int LastRow() const { return Rows() - 1; }
     // Puts an empty row below the last one.
     void Grow();
+    // Takes the current row away; an empty one always stays to take the next line.
+    void RemoveCurrentRow();
     // Writes cells from column 0 on; columns beyond the texts keep what they hold.
     void Write(int row, const std::vector<std::string>& cells);
     void WriteHeadings(const std::vector<std::string>& headings);

@@ -65,7 +65,8 @@ private:
     bool LineIsSound();
     void OpenRow();
     void CancelLine() { PurchaseScreen::CancelLine(line_, OrderGrid); }
-    void DeleteRow() { RemoveRow(OrderGrid); }
+    // Wanted: the sums keep counting a removed row until the next line is added.
+    void DeleteRow() { OrderGrid.RemoveCurrentRow(); }
     void RecalcTotals();
 
     // --- The data ---

@@ -55,7 +55,8 @@ private:
     void AddLine();
     void RecalcTotals();
     void CancelLine() { PurchaseScreen::CancelLine(line_, OrderGrid); }
-    void DeleteRow() { RemoveRow(OrderGrid); }
+    // Wanted: the sums keep counting a removed row until the next line is added.
+    void DeleteRow() { OrderGrid.RemoveCurrentRow(); }
 
     // --- The data ---
     void PostRetur();

@@ -42,12 +42,6 @@ bool PurchaseScreen::IsLine(const document::OrderLines& grid, int row) const {
     return Numeric(grid.Cell(row, Quantity)) && Numeric(grid.Cell(row, Price));
 }
 
-void PurchaseScreen::RemoveRow(document::OrderLines& grid) {
-    if (grid.LastRow() == 1) return grid.ClearGrid();
-    grid.RemoveRow(grid.Row());
-    if (grid.IsFilled(grid.LastRow())) grid.Grow();
-}
-
 void PurchaseScreen::ShowLine(document::EntryLine& line, const document::OrderLines& grid, int row) const {
     const auto fine = [&](int column) { return Masked(CellNumber(grid, row, column), "#,##0.#0"); };
     line.txtKodeBrg.SetText(grid.Cell(row, Code));

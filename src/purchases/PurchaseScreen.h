@@ -33,10 +33,6 @@ protected:
     PurchaseLine LineOf(const document::OrderLines& grid, int row) const;
     // Whether the row is one to post: quantity and price are numbers.
     bool IsLine(const document::OrderLines& grid, int row) const;
-    // The row goes, but an empty one always stays to take the next line. Wanted: the sums keep counting it
-    // until the next line is added.
-    static void RemoveRow(document::OrderLines& grid);
-
     // A column as it is stored, unrounded; 0 for Null.
     double Amount(ado::Recordset& rows, const char* column) const {
         return NullToNumber(rows[column], services_.regional);

@@ -157,8 +157,12 @@ public:
             combo_->addItems(items_);
         }
         if (QLineEdit* edit = combo_->lineEdit()) {
+            // Choosing the item rewrites the text, and the caret would come back to its beginning.
+            const int caret = edit->cursorPosition();
             combo_->setCurrentIndex(box_.ListIndex());
             Show(*edit, box_.Text());
+            if (edit->hasFocus() && edit->cursorPosition() != caret)
+                edit->setCursorPosition(std::min(caret, int(edit->text().size())));
             edit->setReadOnly(box_.Locked());
             if (box_.MaxLength() > 0) edit->setMaxLength(box_.MaxLength());
         } else {

@@ -63,6 +63,7 @@ constexpr NamedIcon ControlIcons[] = {
     {"bttndel", "delete"},
     {"bttnfind", "find"},
     {"bttnsearch", "find"},
+    {"command1", "find"},
     {"cmdexecute", "find"},
     {"bttnprint", "print"},
     {"bttnpreview", "preview"},

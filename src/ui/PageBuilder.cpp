@@ -89,6 +89,9 @@ void PageBuilder::Dress(Binding& binding, const Node& node) {
         return;
     }
     switch (control.GetKind()) {
+    case Kind::Label:
+        if (node.width > 0) widget.setMinimumWidth(node.width * unit);
+        break;
     case Kind::Grid:
     case Kind::ListGrid:
         widget.setMinimumHeight((node.width > 0 ? node.width : 6) * (widget.fontMetrics().height() + 10) +

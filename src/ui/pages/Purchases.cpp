@@ -48,8 +48,29 @@ Page FakturReturPage() {
                                         .search = false});
 }
 
+Page BayarFakturPage() {
+    Node account =
+        Row({Field("TxtRekening", 36), Heading("read by its first three characters").Quiet(), Spring()});
+    Node head = Row({Card("", Form({{Field("txtNoBukti", 15)},
+                                    {Field("txtTglJurnal", 15)},
+                                    {Field("TxtCaraBayar", 15)},
+                                    {std::move(account)},
+                                    {Field("TxtNamaPenerima")},
+                                    {Field("TxtMemo")}}))
+                         .Share(1),
+                     Card("", Form({{Field("TxtNamaBank", 26)},
+                                    {Field("TxtNoCek", 26)},
+                                    {Field("TxtPemilik", 26)},
+                                    {Field("TxtTglJTP", 15)}}))});
+    Node entry = Row({Field("TxtNoFaktur", 14).Above(), Column({Heading(" "), Button("Command1")}),
+                      Field("TxtJumlah", 14).Above(), Field("TxtKodeSup", 12).Above(),
+                      Field("TxtNamaSup", 24).Above().Share(1),
+                      Column({Heading(" "), Button("bttnAddLine").Primary()})});
+    return VoucherPage("BayarFaktur", {.head = std::move(head), .entry = std::move(entry)});
+}
+
 } // namespace
 
-std::vector<Page> PurchasesPages() { return {FakturPage(), FakturReturPage()}; }
+std::vector<Page> PurchasesPages() { return {FakturPage(), FakturReturPage(), BayarFakturPage()}; }
 
 } // namespace varnik::ui

@@ -1,12 +1,5 @@
--- A small shop for the scenarios of money and returns: accounts, all tables before and after, and what differs.
+-- A small shop for the scenarios of money and returns: all tables before and after, and what differs.
 dofile(arg[0]:match ".*/" .. "../support/shop.lua")
-
-function account(row)
-    local defaults = {NamaBank = "Account " .. row.RekID, NamaPemilik = "Shop", NoRek = "1-" .. row.RekID,
-                      SaldoAwal = 0, SaldoAkhir = 0, DefaultKas = false}
-    for key, value in pairs(row) do defaults[key] = value end
-    insert("Bank", defaults)
-end
 
 -- The columns that count, of every table that a sale, a receipt or a return may touch.
 local Touched = {

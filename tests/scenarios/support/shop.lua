@@ -42,6 +42,13 @@ function customer(row)
     }, row))
 end
 
+function account(row)
+    local defaults = {NamaBank = "Account " .. row.RekID, NamaPemilik = "Shop", NoRek = "1-" .. row.RekID,
+                      SaldoAwal = 0, SaldoAkhir = 0, DefaultKas = false}
+    for key, value in pairs(row) do defaults[key] = value end
+    insert("Bank", defaults)
+end
+
 -- Base units of a product bought under a purchase number, for a total.
 function purchase(number, code, quantity, total)
     insert("FakturDetail", {

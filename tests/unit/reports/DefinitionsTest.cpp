@@ -40,6 +40,13 @@ const std::vector<Case> Cases = {
 000000004100|INV/2026/77|2026-11-22|2026-12-22|5050000|0000000001|80|SAK|58000|4640000|PT Pabrik Semen|Jl. Raya Padalarang 100|||Padalarang|Semen Portland 40 kg
 000000004100|INV/2026/77|2026-11-22|2026-12-22|5050000|0000000002|2.5|M3|200000|410000|PT Pabrik Semen|Jl. Raya Padalarang 100|||Padalarang|Pasir beton
 )"},
+    {"BKK",
+     "BKK.rpt",
+     {},
+     R"(KodeSup|NoBKK|TglBKK@|RekID|NamaBank|Penerima|Jumlah#|CaraBayar|Keterangan|NoCek|NamaSup|NoFakSup
+0000000001|000000000300|2026-11-30|902|Bank Satu|Ibu Sri|2500000|CHEQUE|PAYMENT TO PT Pabrik Semen Po No.000000004100|C-7781|PT Pabrik Semen|INV/2026/77
+0000000002|000000000300|2026-11-30|902|Bank Satu|Ibu Sri|150000.50|CHEQUE|PAYMENT TO PT Pabrik Semen Po No.000000004100|C-7781|CV Paku Jaya|
+)"},
     {"PORetur",
      "PORetur.rpt",
      {},
