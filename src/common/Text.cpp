@@ -144,13 +144,15 @@ std::vector<std::string> Split(std::string_view text, char separator) {
     }
 }
 
-std::string TransformPassword(std::string_view text) {
+std::string TransformPassword(std::string_view text) { return RevealPassword(Trim(text)); }
+
+std::string RevealPassword(std::string_view stored) {
     static constexpr std::string_view Key = "ZMXNCBVLAKSJDHFGQPWOEIRUTY,.;/1!2@3#4$5%6^7&8*9(0)";
     static_assert(Key.size() == 50);
     std::string result;
     std::size_t i = 0;
     // The first character meets the second of the key: stored passwords were made so.
-    for (char32_t c : Decode(Trim(text))) Append(result, c ^ static_cast<char32_t>(Key[++i % 50]));
+    for (char32_t c : Decode(stored)) Append(result, c ^ static_cast<char32_t>(Key[++i % 50]));
     return result;
 }
 

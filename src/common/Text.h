@@ -28,5 +28,8 @@ inline constexpr std::string_view CrLf = "\r\n";
 // The stored form of a password: each character of the trimmed text against a fixed key of 50. Its own
 // inverse, apart from the trim; the result may hold control characters, the null character included.
 std::string TransformPassword(std::string_view text);
+// The password behind a stored form: the transform without the trim, since a blank at an edge of a stored
+// form stands for a character of the password.
+std::string RevealPassword(std::string_view stored);
 
 } // namespace varnik

@@ -5,13 +5,16 @@
 #include "data/DataSource.h"
 #include "platform/desktop/Failure.h"
 #include "platform/desktop/Services.h"
+#include "shell/Company.h"
 #include "shell/fLogin.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMainCode.h"
 #include "shell/frmSplash.h"
+#include "shell/fuser.h"
 
 #include <filesystem>
 #include <system_error>
+#include <type_traits>
 
 namespace varnik {
 
@@ -100,8 +103,12 @@ void Main(Services& services) {
 }
 
 void RegisterShell(Services& services) {
-    services.screens["mnuHelpAbout"] = {"frmAbout",
-                                        [](Services& s) { return std::make_unique<frmAbout>(s); }};
+    const auto add = [&]<typename Screen>(std::type_identity<Screen>, const char* item, const char* name) {
+        services.screens[item] = {name, [](Services& s) { return std::make_unique<Screen>(s); }};
+    };
+    add(std::type_identity<frmAbout>{}, "mnuHelpAbout", "frmAbout");
+    add(std::type_identity<Company>{}, "mnuSetupPerusahaan", "Company");
+    add(std::type_identity<fuser>{}, "mnuToolUser", "fuser");
 }
 
 } // namespace varnik

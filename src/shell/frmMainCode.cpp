@@ -26,7 +26,7 @@ frmMainCode::frmMainCode(Services& services)
     imgTitleMaxRestore.onMouseDown = [this] { Desk().DragMainWindow(); };
     TV.onNodeClick = [this](const std::string& key) { Dispatch(key); };
     Timer1.onTick = [this] { ShowTime(); };
-    Timer2.onTick = [this] { sbStatusBar.SetPanel(TitlePanel, title_.Next()); };
+    Timer2.onTick = [this] { ShowTitle(); };
 }
 
 void frmMainCode::DropsDown(forms::Label& label, forms::Menu& menu) {
@@ -37,7 +37,6 @@ void frmMainCode::DropsDown(forms::Label& label, forms::Menu& menu) {
 
 void frmMainCode::Load() {
     SetCaption("Varnik - " + Trim(Sess().CompanyName));
-    title_ = ScrollingTitle(Sess().CompanyName);
     ShowStatus();
     // Without its menu the program cannot go on.
     if (!Reported(Desk(), [this] { BuildTree(); })) Desk().Quit();
@@ -66,6 +65,15 @@ void frmMainCode::Dispatch(const std::string& key) {
 }
 
 void frmMainCode::ShowTime() { sbStatusBar.SetPanel(TimePanel, FormatDate(Desk().Now(), "hh:mm:ss")); }
+
+// A company with new texts shows in the status bar at once, in the window's caption at the next start.
+void frmMainCode::ShowTitle() {
+    if (titled_ != Sess().CompanyName) {
+        titled_ = Sess().CompanyName;
+        title_ = ScrollingTitle(*titled_);
+    }
+    sbStatusBar.SetPanel(TitlePanel, title_.Next());
+}
 
 void frmMainCode::ShowStatus() {
     ShowTime();

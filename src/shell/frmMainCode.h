@@ -7,6 +7,7 @@
 #include "shell/frmMain.h"
 
 #include <memory>
+#include <optional>
 
 namespace varnik {
 
@@ -34,10 +35,12 @@ private:
     void BuildTree();
     void Dispatch(const std::string& key);
     void ShowTime();
+    void ShowTitle();
     void ShowStatus();
 
     frmMain menus_;
     ScrollingTitle title_;
+    std::optional<std::string> titled_; // the company that the title names
 };
 
 } // namespace varnik

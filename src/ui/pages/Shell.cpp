@@ -1,4 +1,4 @@
-// Login, splash, main window, about.
+// Login, splash, main window, about, users, company.
 
 #include "ui/pages/Page.h"
 
@@ -25,6 +25,20 @@ Page Main() {
             Column({std::move(bar), std::move(body), Field("sbStatusBar").Label("Status")})};
 }
 
+// Name, code, password and rights at the left, the menu at the right in its whole length.
+Page Users() {
+    Node tools = Row({Button("bttnAdd"), Button("bttnEdit"), Button("bttnDelete"), Button("bttnFind"),
+                      Button("bttnOK").Primary(), Button("bttnCancel"), Spring(), Button("bttnClose")});
+    Node user = Column(
+        {Card("User", Form({{Field("txtUserId", 20)}, {Field("TxtNoUser", 6)}, {Field("txtPass", 20)}})),
+         Card("Rights", Column({Field("Tambah"), Field("Lihat"), Field("Ganti"), Field("Hapus")})),
+         Spring()});
+    return {"fuser", Family::Master,
+            Column({std::move(tools),
+                    Row({std::move(user), Card("Access", Table("grdCari", 22).Label("Access")).Share(1)})
+                        .Share(1)})};
+}
+
 } // namespace
 
 std::vector<Page> ShellPages() {
@@ -43,7 +57,13 @@ std::vector<Page> ShellPages() {
                                                 Field("LblVersi2"), Field("lb_email"), Spring()})),
                             {"cmdOK", "cmdSysInfo"});
     Page dialog = DialogPage("Dialog", Spring(), {"OKButton", "CancelButton"});
-    return {Main(), login, splash, about, dialog};
+    Page company = DialogPage("Company",
+                              Card("Heads every report", Form({{Field("txtNama", 44)},
+                                                               {Field("txtket", 44)},
+                                                               {Field("TxtAlamat1", 44)},
+                                                               {Field("TxtAlamat2", 44)}})),
+                              {"Command1", "Command2"});
+    return {Users(), company, Main(), login, splash, about, dialog};
 }
 
 } // namespace varnik::ui
