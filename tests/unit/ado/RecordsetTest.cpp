@@ -255,7 +255,7 @@ TEST_F(RecordsetTest, AgreesWithAPlainListOfRows) {
         std::map<std::string, std::string> names; // by code; codes are handed out in rising order
         int last = 0;
         const auto fresh = [&] {
-            char code[8];
+            char code[16];
             std::snprintf(code, sizeof code, "%05d", ++last);
             return std::string(code);
         };
