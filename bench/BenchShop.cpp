@@ -19,7 +19,7 @@ namespace {
 constexpr const char* OwnUser = "98";
 } // namespace
 
-BenchShop::BenchShop(long sales) : filled_(sales) {
+BenchShop::BenchShop(long sales, long masters) : filled_(sales), masters_(masters) {
     std::string name = (std::filesystem::temp_directory_path() / "varnik-bench-XXXXXX").string();
     if (!mkdtemp(name.data())) throw std::runtime_error("no temporary folder");
     folder_ = name;
@@ -34,6 +34,7 @@ BenchShop::BenchShop(long sales) : filled_(sales) {
     if (!Access().session.LoggedIn) throw std::runtime_error("the login failed");
     Access().session.NoUser = OwnUser;
     FillShop(Database(), sales);
+    FillMasters(Database(), masters);
     bare_ = std::make_unique<BareLoop>(Database());
 }
 
@@ -48,6 +49,49 @@ BenchShop::~BenchShop() {
 void BenchShop::OpenAndClose(const std::string& key) {
     desktop_->Show(Access().screens.at(key).make(Access())); // a second one beside the screen that enters
     desktop_->screens.back()->Close();
+}
+
+forms::Screen& BenchShop::Master(const std::string& key, const std::string& screen) {
+    OpenScreen(Access(), key, screen);
+    return *desktop_->FindScreen(screen);
+}
+
+void BenchShop::Search(const std::string& key, const std::string& screen) {
+    forms::Screen& master = Master(key, screen);
+    if (master.FindControl("bttnFind")->Enabled()) master.Click(*master.FindControl("bttnFind"));
+    master.Click(*master.FindControl("cmdExecute"));
+    if (dynamic_cast<forms::ListGrid&>(*master.FindControl("grdCari")).Rows() != masters_)
+        throw std::runtime_error("the search of " + screen + " does not find every row");
+}
+
+void BenchShop::Edit(const std::string& key, const std::string& screen, const std::string& code) {
+    forms::Screen& master = Master(key, screen);
+    auto& box = dynamic_cast<forms::TextControl&>(*master.FindControl("txtKode"));
+    master.MoveFocus(box);
+    box.SetText(code);
+    master.MoveNext();
+    master.Click(*master.FindControl("bttnEdit"));
+    if (!master.FindControl("bttnOK")->Enabled()) throw std::runtime_error(screen + " does not edit " + code);
+}
+
+void BenchShop::SaveRecord(const std::string& screen) {
+    forms::Screen& master = *desktop_->FindScreen(screen);
+    master.Click(*master.FindControl("bttnOK"));
+}
+
+void BenchShop::PrepareLookUp() {
+    if (!invoice_) {
+        OpenScreen(Access(), "T01", "Sales");
+        invoice_ = desktop_->FindScreen("Invoice");
+        invoice_->Click(On("bttnNew"));
+    }
+    invoice_->MoveFocus(On("TxtKodeCus"));
+}
+
+void BenchShop::LookUpCustomers() {
+    invoice_->PressKey({.code = forms::KeyCode::F5});
+    if (dynamic_cast<forms::ListGrid&>(On("GridCari")).Rows() != masters_)
+        throw std::runtime_error("the look-up does not list every customer");
 }
 
 int BenchShop::FirstPageOfSales(long rows) {

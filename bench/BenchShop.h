@@ -13,7 +13,7 @@ namespace varnik::bench {
 
 class BenchShop {
 public:
-    explicit BenchShop(long sales);
+    explicit BenchShop(long sales, long masters = 1000);
     ~BenchShop();
 
     std::filesystem::path Database() const { return folder_ / "Data" / "Varnik.mdb"; }
@@ -27,10 +27,19 @@ public:
     std::string NextNumber();
     // Runs a list of the first so many sales up to its first page; the number of its pages.
     int FirstPageOfSales(long rows);
+    // On the master screens, opened once: a search that finds every row, the change of one record up to
+    // the point where OK is pressed, and OK.
+    void Search(const std::string& key, const std::string& screen);
+    void Edit(const std::string& key, const std::string& screen, const std::string& code);
+    void SaveRecord(const std::string& screen);
+    // The look-up of all customers on the sales screen.
+    void PrepareLookUp();
+    void LookUpCustomers();
     BareLoop& Bare() { return *bare_; }
 
 private:
     forms::Control& On(const std::string& control);
+    forms::Screen& Master(const std::string& key, const std::string& screen);
     void Type(const std::string& control, const std::string& text);
 
     std::filesystem::path folder_;
@@ -39,6 +48,7 @@ private:
     std::unique_ptr<BareLoop> bare_;
     forms::Screen* invoice_ = nullptr;
     long filled_;    // sales that were there before
+    long masters_;   // products, and as many customers
     long sales_ = 0; // of the bench itself
 };
 

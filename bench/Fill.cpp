@@ -60,9 +60,26 @@ const char* const Statements[] = {
     "printf('%010d00', 1 + i % 1000), '2020-01-01', printf('%010d', 1 + i % 1000), 2, 4500 FROM n",
 };
 
-} // namespace
+// Beside those of the shop; %N is the number of rows.
+const char* const Masters[] = {
+    "WITH RECURSIVE n(i) AS (SELECT 1001 UNION ALL SELECT i + 1 FROM n WHERE i < %N) "
+    "INSERT INTO Customer "
+    "(KodeCus,JenisCus,NamaCus,Alamat_1,Alamat_2,Kota,nDIS,nwDis,nJTP,SaldoAkhir,SaldoAwal) "
+    "SELECT printf('C%09d', i), '001', 'Customer ' || i, 'Street ' || i, 'Block ' || (i % 90), 'Bandung', 0, "
+    "0, "
+    "30, i % 5000, 0 FROM n",
+    "WITH RECURSIVE n(i) AS (SELECT 1001 UNION ALL SELECT i + 1 FROM n WHERE i < %N) "
+    "INSERT INTO Produk "
+    "(KodeBrg,NamaBrg,JenisBrg,Satuan,Pecahan,SatuanBeli,PecahanBeli,SatuanJual,PecahanJual,"
+    "QGudang,QCounter,OnOrder,OnHand,HPPAwal,HPPAkhir,HPPRata,QAwal,QJual,QBeli,HargaBeli,HargaJual,KodeSup,"
+    "Jasa) "
+    "SELECT printf('%010d', i), 'Product ' || i, '001', 'PCS', 1, 'DUS' || (i % 12), 12, 'PCS', 1, 100, 0, "
+    "0, 100, "
+    "4500, 4500, 4500, 0, 0, 0, 4500, 5500, 'S000000001', 0 FROM n",
+};
 
-void FillShop(const std::filesystem::path& database, long sales) {
+template <std::size_t Count>
+void Run(const std::filesystem::path& database, const char* const (&statements)[Count], long number) {
     sqlite3* engine = nullptr;
     if (sqlite3_open(database.c_str(), &engine) != SQLITE_OK)
         throw std::runtime_error(sqlite3_errmsg(engine));
@@ -72,14 +89,22 @@ void FillShop(const std::filesystem::path& database, long sales) {
     };
     run("PRAGMA synchronous=OFF; PRAGMA cache_size=-400000");
     run("BEGIN");
-    for (std::string sql : Statements) {
+    for (std::string sql : statements) {
         if (const auto at = sql.find("%N"); at != std::string::npos)
-            sql.replace(at, 2, std::to_string(sales));
+            sql.replace(at, 2, std::to_string(number));
         run(sql);
     }
     run("COMMIT");
     run("PRAGMA wal_checkpoint(TRUNCATE)");
     sqlite3_close(engine);
+}
+
+} // namespace
+
+void FillShop(const std::filesystem::path& database, long sales) { Run(database, Statements, sales); }
+
+void FillMasters(const std::filesystem::path& database, long masters) {
+    if (masters > 1000) Run(database, Masters, masters);
 }
 
 } // namespace varnik::bench

@@ -11,6 +11,7 @@
 #include <chrono>
 #include <cstdio>
 #include <map>
+#include <tuple>
 
 namespace varnik::bench {
 namespace {
@@ -71,6 +72,26 @@ void RegisterShop(const std::string& size, BenchShop& shop) {
              [](BenchShop& on) { return Seconds([&] { benchmark::DoNotOptimize(on.NextNumber()); }); });
 }
 
+// The lists and records of the master screens; each on a screen that stays open.
+void RegisterMasters(const std::string& size, BenchShop& shop) {
+    for (const auto& [key, screen, code] :
+         {std::tuple{"F01", "fProduk", "0000000500"}, std::tuple{"F02", "fCustomer", "C000000500"}}) {
+        const std::string label = std::string(screen) + ", " + size;
+        Register("open " + label, shop, 5,
+                 [key](BenchShop& on) { return Seconds([&] { on.OpenAndClose(key); }); });
+        Register("search all, " + label, shop, 2,
+                 [key, screen](BenchShop& on) { return Seconds([&] { on.Search(key, screen); }); });
+        Register("save " + label, shop, 5, [key, screen, code](BenchShop& on) {
+            on.Edit(key, screen, code);
+            return Seconds([&] { on.SaveRecord(screen); });
+        });
+    }
+    Register("look-up of customers, " + size, shop, 2, [](BenchShop& on) {
+        on.PrepareLookUp();
+        return Seconds([&] { on.LookUpCustomers(); });
+    });
+}
+
 void Ratio(const std::map<std::string, double>& medians, const std::string& over, const std::string& under,
            const std::string& goal) {
     const auto a = medians.find(over), b = medians.find(under);
@@ -104,6 +125,10 @@ int main(int argc, char** argv) {
     BenchShop largeShop(large);
     RegisterShop("small", smallShop);
     RegisterShop("large", largeShop);
+    BenchShop fewShop(1000);
+    BenchShop manyShop(1000, 100'000);
+    RegisterMasters("few", fewShop);
+    RegisterMasters("many", manyShop);
     KeepingMedians reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
 
@@ -118,5 +143,13 @@ int main(int argc, char** argv) {
     Ratio(reporter.medians, "list to its first page, large", "list to its first page, small",
           "under 1000 ms at 100,000 rows");
     Ratio(reporter.medians, "next number, large", "next number, small", "flat, under 20 ms");
+    for (const std::string screen : {"fProduk", "fCustomer"}) {
+        Ratio(reporter.medians, "open " + screen + ", many", "open " + screen + ", few", "flat, under 20 ms");
+        Ratio(reporter.medians, "search all, " + screen + ", many", "search all, " + screen + ", few",
+              "under 100 ms at 100,000 rows");
+        Ratio(reporter.medians, "save " + screen + ", many", "save " + screen + ", few", "flat");
+    }
+    Ratio(reporter.medians, "look-up of customers, many", "look-up of customers, few",
+          "under 100 ms at 100,000 rows");
     return 0;
 }
