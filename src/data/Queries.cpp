@@ -264,8 +264,12 @@ constexpr std::string_view Indexes[] = {
     // Codes and names of the look-up lists.
     "CREATE INDEX ProdukCode ON Produk(KodeBrg)",
     "CREATE INDEX ProdukName ON Produk(NamaBrg)",
-    "CREATE INDEX CustomerName ON Customer(NamaCus)",
+    "CREATE INDEX CustomerName ON Customer(NamaCus, KodeCus)", // a search by code is listed by name
     "CREATE INDEX SupplierName ON Supplier(NamaSup)",
+    // Units that were entered before.
+    "CREATE INDEX ProdukUnit ON Produk(Satuan)",
+    "CREATE INDEX ProdukPurchaseUnit ON Produk(SatuanBeli)",
+    "CREATE INDEX ProdukSellingUnit ON Produk(SatuanJual)",
     // Monthly balances.
     "CREATE INDEX BankSaldoMonth ON BankSaldo(RekID, Tahun, Bulan)",
     "CREATE INDEX CustomerSaldoMonth ON CustomerSaldo(KodeCus, Tahun, Bulan)",

@@ -97,13 +97,12 @@ bool DocumentScreen::AsksForList(const forms::Key& key, const forms::TextBox& fi
 
 void DocumentScreen::OpenList(LookupList& list, const std::string& sql, forms::TextBox& field,
                               std::function<void()> picked) {
-    ado::Recordset rows;
-    Found(rows, sql);
-    list.Open(rows.IsOpen() ? CodesAndNames(rows, services_.regional) : std::vector<std::string>{}, field,
-              [&field, picked](const std::string& code) {
-                  field.SetText(code);
-                  picked();
-              });
+    ado::RowList rows;
+    Resume([&] { rows = ado::RowList(sql, connection_); });
+    list.Open(rows, services_.regional, field, [&field, picked](const std::string& code) {
+        field.SetText(code);
+        picked();
+    });
 }
 
 void DocumentScreen::ShowLines(Guard& step, OrderLines& grid, ado::Recordset& lines, const char* name,

@@ -2,6 +2,7 @@
 
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "platform/desktop/Failure.h"
 #include "platform/forms/Screen.h"
 
 namespace varnik::document {
@@ -19,9 +20,24 @@ LookupList::LookupList(forms::Screen& screen) : ListGrid(screen, "GridCari") {
     };
 }
 
-void LookupList::Open(std::vector<std::string> rows, forms::Control& back,
-                      std::function<void(const std::string&)> take) {
+void LookupList::Open(std::vector<std::string> rows, forms::Control& back, Take take) {
     SetItems(std::move(rows));
+    Show(back, std::move(take));
+}
+
+void LookupList::Open(const ado::RowList& rows, const Regional& regional, forms::Control& back, Take take) {
+    SetSource(rows.Count(), [rows, &regional](int index) {
+        std::string line;
+        Resume([&] {
+            const std::vector<Value> row = rows.Row(index);
+            if (!row.empty()) line = NullToText(row[0], regional) + '\t' + NullToText(row[1], regional);
+        });
+        return line;
+    });
+    Show(back, std::move(take));
+}
+
+void LookupList::Show(forms::Control& back, Take take) {
     back_ = &back;
     take_ = std::move(take);
     // Shown before the focus moves: the field it opens for sees that it is not left for good.
@@ -35,13 +51,6 @@ void LookupList::Pick() {
     if (back_) Owner().SetFocus(*back_);
     SetVisible(false);
     if (take_) take_(code);
-}
-
-std::vector<std::string> CodesAndNames(ado::Recordset& rows, const Regional& regional) {
-    std::vector<std::string> list;
-    for (; !rows.Eof(); rows.MoveNext())
-        list.push_back(NullToText(rows[0], regional) + '\t' + NullToText(rows[1], regional));
-    return list;
 }
 
 } // namespace varnik::document

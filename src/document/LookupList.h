@@ -16,17 +16,17 @@ public:
     explicit LookupList(forms::Screen& screen);
 
     // Shows the rows, "code<tab>name" each; `take` gets the code without blanks. Back goes the focus.
-    void Open(std::vector<std::string> rows, forms::Control& back,
-              std::function<void(const std::string& code)> take);
+    using Take = std::function<void(const std::string& code)>;
+    void Open(std::vector<std::string> rows, forms::Control& back, Take take);
+    // The same with the first two columns of a statement's rows, read as they are shown.
+    void Open(const ado::RowList& rows, const Regional& regional, forms::Control& back, Take take);
 
 private:
+    void Show(forms::Control& back, Take take);
     void Pick();
 
     forms::Control* back_ = nullptr;
-    std::function<void(const std::string&)> take_;
+    Take take_;
 };
-
-// The first two columns of every row, joined by a tab.
-std::vector<std::string> CodesAndNames(ado::Recordset& rows, const Regional& regional);
 
 } // namespace varnik::document

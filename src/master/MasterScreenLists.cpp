@@ -19,16 +19,20 @@ void MasterScreen::Has(MasterSearch& search) {
 
 void MasterScreen::ExecuteSearch() {
     const std::string statement = search_->Statement(*row_.search, Number(search_->txtValue));
-    const int columns = static_cast<int>(row_.search->columns.size());
-    search_->grdCari.SetItems(Items(statement, [&](ado::Recordset& rows) {
+    ado::RowList rows;
+    Resume([&] { rows = ado::RowList(statement, connection_); });
+    search_->grdCari.SetSource(rows.Count(), [this, rows](int row) {
         std::string line;
-        for (int column = 0; column < columns; ++column) {
-            const Value value = rows[column];
-            if (column > 0) line += '\t';
-            line += column == row_.search->amount ? Masked(Number(value)) : TextOf(value);
-        }
+        Resume([&] {
+            int column = 0;
+            for (const Value& value : rows.Row(row)) {
+                if (column > 0) line += '\t';
+                line += column == row_.search->amount ? Masked(Number(value)) : TextOf(value);
+                ++column;
+            }
+        });
         return line;
-    }));
+    });
 }
 
 void MasterScreen::TakeFromSearch() {

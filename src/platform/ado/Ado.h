@@ -156,6 +156,23 @@ private:
     std::unique_ptr<Impl> impl_;
 };
 
+// The rows of a statement, counted at once and read one by one as they are asked for: a list of 100,000
+// rows costs what is looked at. Rows of one table are read as they stand at that moment; those of joins and
+// stored queries are read once.
+class RowList {
+public:
+    RowList() = default;
+    RowList(std::string_view sql, Connection& connection);
+
+    int Count() const;
+    // Counted from 0; empty for a row that has been deleted since. DataError once the connection is closed.
+    std::vector<varnik::Value> Row(int index) const;
+
+private:
+    struct Impl;
+    std::shared_ptr<const Impl> impl_; // copies are the same list
+};
+
 // Syncs what open connections wrote to the databases' logs and no close has synced yet: called when an
 // action has ended on a connection that stays open.
 void SyncWritten();

@@ -51,13 +51,42 @@ void Session::Surround(const Environment& environment) {
     engine_->Surround(this, environment.busyTimeoutMs);
 }
 
+namespace {
+
+// The values of a column from one to the next, each a seek in the column's index: the engine itself would
+// read every row of the table to list a handful of units.
+std::string WalkOf(const jet::Table& table, const jet::Column& column) {
+    const std::string name(column.name), from = " from " + std::string(table.name);
+    const std::string next = " order by " + name + " limit 1";
+    return "with recursive walk(value) as (select * from (select " + name + from + " where " + name +
+           " is not null" + next + ") union all select (select " + name + from + " where " + name +
+           " > walk.value" + next + ") from walk where walk.value is not null) select null as " + name +
+           " where exists (select 1" + from + " where " + name +
+           " is null) union all select value from walk where value is not null";
+}
+
+} // namespace
+
+bool Session::HasIndex(const jet::Table& table, const jet::Column& firstColumn) {
+    const auto text = [](std::string_view name) { return "'" + std::string(name) + "'"; };
+    return engine_
+        ->Compile("select 1 from pragma_index_list(" + text(table.name) +
+                  ") as list, pragma_index_info(list.name) as part where list.partial = 0 and part.seqno = 0 "
+                  "and part.name = " +
+                  text(firstColumn.name) + " collate nocase")
+        ->Step();
+}
+
 std::shared_ptr<const jet::Form> Session::FormOf(const jet::Tokens& tokens) {
     if (std::shared_ptr<const jet::Form> known = forms_.Find(tokens.shape)) {
         ++statistics_.reuses;
         return known;
     }
     ++statistics_.rewrites;
-    auto form = std::make_shared<const jet::Form>(jet::Rewrite(tokens, environment_->catalog));
+    auto form = std::make_shared<jet::Form>(jet::Rewrite(tokens, environment_->catalog));
+    if (const jet::Table* table = form->statement.groupedTable;
+        table != nullptr && HasIndex(*table, *form->statement.groupedColumn))
+        form->statement.sql = WalkOf(*table, *form->statement.groupedColumn);
     forms_.Keep(tokens.shape, form);
     return form;
 }
@@ -85,6 +114,7 @@ long Session::Write(Running& running) {
 }
 
 void Session::RunNative(std::string_view script) {
+    forms_.Clear();
     compiled_.Clear();
     engine_->Run(script);
     ++state_->writes;

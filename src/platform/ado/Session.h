@@ -115,6 +115,7 @@ public:
         return Explained(file_, environment_->catalog, body);
     }
 
+    bool HasIndex(const jet::Table& table, const jet::Column& firstColumn);
     Value AsStored(const Value& value, std::size_t table, std::size_t column) override;
     Value ReadNumber(const Value& value) override;
 

@@ -65,27 +65,52 @@ void ListGrid::SetColumns(std::vector<GridColumn> columns) {
     Changed();
 }
 
-void ListGrid::Clear() {
-    rows_.clear();
-    row_ = -1;
-    Changed();
-}
+void ListGrid::Clear() { SetItems({}); }
 
 void ListGrid::AddItem(std::string tabJoined) {
+    TakeOver();
     rows_.push_back(std::move(tabJoined));
     if (row_ < 0) row_ = 0;
     Changed();
 }
 
 void ListGrid::SetItems(std::vector<std::string> tabJoined) {
+    line_ = nullptr;
     rows_ = std::move(tabJoined);
     row_ = rows_.empty() ? -1 : 0;
     Changed();
 }
 
+void ListGrid::SetSource(int rows, std::function<std::string(int row)> line) {
+    rows_.clear();
+    sourceRows_ = rows;
+    line_ = std::move(line);
+    lineRow_ = -1;
+    row_ = rows > 0 ? 0 : -1;
+    Changed();
+}
+
+// A list that is changed row by row keeps its rows itself.
+void ListGrid::TakeOver() {
+    if (!line_) return;
+    rows_.reserve(static_cast<std::size_t>(sourceRows_));
+    for (int row = 0; row < sourceRows_; ++row) rows_.push_back(line_(row));
+    line_ = nullptr;
+}
+
+// The cells of a row are asked for one after the other, so the last line is kept.
+const std::string& ListGrid::Line(int row) const {
+    if (!line_) return rows_[static_cast<std::size_t>(row)];
+    if (lineRow_ != row) {
+        lineText_ = line_(row);
+        lineRow_ = row;
+    }
+    return lineText_;
+}
+
 std::string ListGrid::Cell(int row, int column) const {
     if (row < 0 || row >= Rows() || column < 0) return "";
-    std::string_view rest = rows_[static_cast<std::size_t>(row)];
+    std::string_view rest = Line(row);
     for (; column > 0; --column) {
         const auto tab = rest.find('\t');
         if (tab == std::string_view::npos) return "";
@@ -96,6 +121,7 @@ std::string ListGrid::Cell(int row, int column) const {
 
 void ListGrid::SetCell(int row, int column, std::string text) {
     if (row < 0 || row >= Rows() || column < 0) return;
+    TakeOver();
     std::string& line = rows_[static_cast<std::size_t>(row)];
     std::vector<std::string> cells = Split(line, '\t');
     if (static_cast<std::size_t>(column) >= cells.size()) cells.resize(static_cast<std::size_t>(column) + 1);

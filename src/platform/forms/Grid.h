@@ -54,9 +54,11 @@ public:
     const std::vector<GridColumn>& Columns() const { return columns_; }
     void Clear();
     void AddItem(std::string tabJoined);
-    // Adds many rows and tells the widget once.
+    // Takes many rows and tells the widget once.
     void SetItems(std::vector<std::string> tabJoined);
-    int Rows() const { return static_cast<int>(rows_.size()); }
+    // Takes this many rows whose lines are asked for one by one as they are looked at.
+    void SetSource(int rows, std::function<std::string(int row)> line);
+    int Rows() const { return line_ ? sourceRows_ : static_cast<int>(rows_.size()); }
     std::string Cell(int row, int column) const; // both from 0; "" outside
     void SetCell(int row, int column, std::string text);
     int Row() const { return row_; } // current row from 0, -1 when there is none
@@ -74,8 +76,15 @@ public:
     std::function<void()> onActivate;
 
 private:
+    const std::string& Line(int row) const;
+    void TakeOver();
+
     std::vector<GridColumn> columns_;
     std::vector<std::string> rows_;
+    std::function<std::string(int row)> line_; // of a source
+    int sourceRows_ = 0;
+    mutable int lineRow_ = -1; // the row of the source that was asked for last
+    mutable std::string lineText_;
     int row_ = -1, checkColumn_ = -1, rowHeight_ = 0;
 };
 

@@ -142,7 +142,23 @@ private:
             plain->order = sorting;
             plain->hasOrder = order < range.end;
         }
+        if (plain != nullptr && where == range.end && having == range.end && order == range.end &&
+            list == range.begin + 1 && from < range.end && group < range.end)
+            Grouped({list, from}, until(from), {group + 1, range.end}, plain);
         expressions_.scope = scope;
+    }
+
+    void Grouped(Range columns, Range from, Range group, Statement* plain) const {
+        if (columns.end - columns.begin != 1 || group.end - group.begin != 2 || !IsName(columns.begin) ||
+            !Word(group.begin, "by") || !EqualsNoCase(At(columns.begin).text, At(group.begin + 1).text))
+            return;
+        Statement over;
+        if (!SingleTable(from, &over)) return;
+        const Table* table = catalog_.FindTable(over.singleTable);
+        const Column* column = FindColumn(*table, At(columns.begin).text);
+        if (column == nullptr || column->type != ColumnType::Text) return;
+        plain->groupedTable = table;
+        plain->groupedColumn = column;
     }
 
     // What a piece of the work adds to the output.

@@ -24,6 +24,9 @@ struct Statement {
     std::string singleTable;
     std::string columns, from, where, order;
     bool hasOrder = false;
+    // Of "SELECT column FROM table GROUP BY column" over a text column: the list of what was ever entered.
+    const Table* groupedTable = nullptr;
+    const Column* groupedColumn = nullptr;
 };
 
 // A statement that cannot be read: an unclosed quote, a date that is none, two statements in one text.

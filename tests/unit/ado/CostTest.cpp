@@ -139,5 +139,65 @@ TEST_F(CostTest, WritingOnTheWalkCostsTheSameForEveryRow) {
     }
 }
 
+TEST_F(CostTest, AListReadsTheRowsThatAreLookedAt) {
+    Connection connection = Open();
+    ExecuteNative(connection,
+                  "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i < 5000) "
+                  "INSERT INTO Customer SELECT 'C' || (10000 - i), 'Toko ' || (i % 10), 0, i, 0, 0 "
+                  "FROM n");
+    ExecuteNative(connection, "CREATE INDEX ByName ON Customer (NamaCus, KodeCus)");
+    RowList list("Select KodeCus + ' ' + NamaCus,SaldoAkhir,Aktif From Customer Where KodeCus Like '%C%' "
+                 "Order By NamaCus",
+                 connection);
+    ASSERT_EQ(list.Count(), 5000);
+    Session& session = SessionOf(connection);
+    const std::int64_t before = session.Native().Steps();
+    const RowList same = list;
+    for (const auto& [index, code, name, balance] :
+         {std::tuple{0, "C9990", "Toko 0", 10}, {499, "C5000", "Toko 0", 5000}, {500, "C9999", "Toko 1", 1}})
+        EXPECT_EQ(same.Row(index),
+                  (std::vector<Value>{std::string(code) + " " + name, double(balance), false}));
+    EXPECT_LT(session.Native().Steps() - before, 100);
+    EXPECT_TRUE(list.Row(-1).empty());
+    EXPECT_TRUE(list.Row(5000).empty());
+
+    // What another wrote shows, a deleted row comes back empty, the others keep their places.
+    Run("Update Customer Set SaldoAkhir = 7 Where KodeCus = 'C9999'");
+    Run("Delete From Customer Where KodeCus = 'C9990'");
+    EXPECT_EQ(list.Row(500)[1], Value(7.0));
+    EXPECT_TRUE(list.Row(0).empty());
+    // Without conditions, in entry order, and over a stored query.
+    EXPECT_EQ(RowList("Select 'x' + KodeCus From Customer", connection).Row(0)[0], Value("xC9999"));
+    EXPECT_EQ(RowList("Select * From QryLots", connection).Count(), 0);
+    EXPECT_NE(FailureOf([&] { RowList("Select Nothing From Customer", connection); }), 0);
+    connection.Close();
+    EXPECT_EQ(FailureOf([&] { list.Row(1); }), ObjectClosed);
+}
+
+TEST_F(CostTest, TheValuesOfAnIndexedColumnAreWalked) {
+    Connection connection = Open();
+    const auto values = [&] {
+        std::vector<Value> all;
+        for (Recordset rows("Select NamaCus   From Customer Group By  namacus ", connection); !rows.Eof();
+             rows.MoveNext())
+            all.push_back(rows["NamaCus"]);
+        return all;
+    };
+    EXPECT_TRUE(values().empty());
+    ExecuteNative(connection,
+                  "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i < 5000) "
+                  "INSERT INTO Customer SELECT 'C' || i, CASE i % 5 WHEN 0 THEN NULL WHEN 1 THEN '' "
+                  "WHEN 2 THEN 'box' WHEN 3 THEN 'PCS' ELSE 'PCS ' END, 0, i, 0, 0 FROM n");
+    const std::vector<Value> grouped = values();
+    ASSERT_EQ(grouped.size(), 5U);
+    ExecuteNative(connection, "CREATE INDEX ByName ON Customer (NamaCus)");
+    const std::int64_t before = SessionOf(connection).Native().Steps();
+    EXPECT_EQ(values(), grouped);
+    EXPECT_LT(SessionOf(connection).Native().Steps() - before, 500);
+    // Texts that differ in case alone are one.
+    Run("Update Customer Set NamaCus = 'BOX' Where KodeCus = 'C7'");
+    EXPECT_EQ(values().size(), 5U);
+}
+
 } // namespace
 } // namespace varnik::ado
