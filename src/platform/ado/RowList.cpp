@@ -46,8 +46,8 @@ RowList::RowList(std::string_view sql, Connection& connection) {
         // The limit is none; its parameter stands behind those of the columns, which are not in this text.
         Running running(session.Compile("select rowid from " + statement.from +
                                         (statement.where.empty() ? "" : " where " + statement.where) +
-                                        " order by " + (statement.hasOrder ? statement.order + " , " : "") +
-                                        "rowid limit ?" + std::to_string(list->parameters.size() + 1)),
+                                        " order by " + (statement.hasOrder ? statement.order : "rowid") +
+                                        " limit ?" + std::to_string(list->parameters.size() + 1)),
                         list->parameters);
         running.Bind(-1);
         while (running.Step()) list->numbers.push_back(running.ReadInteger(0));

@@ -39,6 +39,21 @@ TEST(MainWindow, MenuKeysAndScreensAreUnique) {
     EXPECT_EQ(screens.size(), 23U);
 }
 
+TEST(MainWindow, ALeafWhoseScreenIsNotThereSaysSo) {
+    TemporaryShop shop;
+    shop.session.UserName = "varnik";
+    shop.services.screens.clear();
+    shop.desktop.Show(std::make_unique<frmMainCode>(shop.services));
+    auto& main = shop.desktop.Find<frmMainCode>("frmMainCode");
+    main.TV.NodeClick("L21");
+    EXPECT_EQ(shop.desktop.Message(), "\"Cost History\" is not part of this program yet.");
+    main.Menus().mnuFileBackup.onClick();
+    EXPECT_EQ(shop.desktop.Message(), "\"Back Up\" is not part of this program yet.");
+    main.TV.NodeClick("L");
+    EXPECT_EQ(shop.desktop.Message(), "");
+    EXPECT_EQ(shop.desktop.screens.size(), 1U);
+}
+
 TEST(Confirmation, EnterAndEscapeCloseIt) {
     TemporaryShop shop;
     for (const forms::KeyCode key : {forms::KeyCode::Enter, forms::KeyCode::Escape}) {
