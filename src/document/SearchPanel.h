@@ -34,6 +34,10 @@ struct SearchNames {
                      take = "cmdTutup", grid = "grdCari";
 };
 
+// The second panel of a screen, for its own documents where the first looks for those that they refer to.
+inline constexpr SearchNames SecondSearch{"FrmCari2",     "TxtKreteria2", "txtValue2",
+                                          "bttnExecute2", "bttnTutup2",   "grdCari2"};
+
 class SearchPanel {
 public:
     SearchPanel(forms::Screen& screen, SearchLayout layout, const SearchNames& names = {});

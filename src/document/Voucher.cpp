@@ -103,8 +103,8 @@ PaymentLines::PaymentLines(forms::Screen& screen, const PaymentLineTexts& texts,
         text->onKeyPress = [](forms::KeyPress& key) { key.ToUpper(); };
 }
 
-void PaymentLines::Add(forms::TextBox& memo) {
-    if (!IsNumeric(TxtJumlah.Text(), regional_)) return;
+bool PaymentLines::Add(forms::TextBox& memo) {
+    if (!IsNumeric(TxtJumlah.Text(), regional_)) return false;
     if (Trim(memo.Text()).empty()) memo.SetText(std::string(texts_.memoStart) + Trim(TxtPartner.Text()));
     const std::vector<std::string> cells{TxtNumber.Text(), Masked(ToNumber(TxtJumlah.Text(), regional_)),
                                          TxtCode.Text(), TxtPartner.Text()};
@@ -122,7 +122,7 @@ void PaymentLines::Add(forms::TextBox& memo) {
     TxtNumber.SetText("");
     TxtJumlah.SetText("0");
     ShowSum();
-    TxtNumber.Owner().SetFocus(TxtNumber);
+    return true;
 }
 
 void PaymentLines::TakeBack() {
@@ -146,6 +146,10 @@ void PaymentLines::Clear() {
     ClearLine();
     OrderGrid.ClearGrid();
     ShowSum();
+}
+
+bool PaymentLines::IsOfCurrentRow(const std::string& number) const {
+    return Updating() && Trim(OrderGrid.Cell(OrderGrid.Row(), Number)) == number;
 }
 
 double PaymentLines::AmountOf(int row) const {

@@ -63,12 +63,15 @@ public:
     PaymentLines(forms::Screen& screen, const PaymentLineTexts& texts, const Regional& regional);
 
     // The entry line into the grid: a new row, or the current one while the button reads "&Up Date"; then the
-    // line is empty again and the sum stands. An amount that is no number leaves all as it is.
-    void Add(forms::TextBox& memo);
+    // line is empty again and the sum stands. An amount that is no number leaves all as it is;
+    // false then.
+    bool Add(forms::TextBox& memo);
     // The current row back on the entry line, an empty one to be filled.
     void TakeBack();
     void ClearLine();
     void Clear();
+    // Whether the row that is being changed is the payment of this document.
+    bool IsOfCurrentRow(const std::string& number) const;
     double AmountOf(int row) const;     // 0 where it is no number
     bool IsPayment(int row) const;      // a number above 0
     bool AmountsAreNumeric() const;     // of all rows but the empty one
@@ -88,9 +91,5 @@ private:
     const Regional& regional_;
     double sum_ = 0;
 };
-
-// The second search of a voucher screen, for the vouchers themselves.
-inline constexpr SearchNames VoucherSearch{"FrmCari2",     "TxtKreteria2", "txtValue2",
-                                           "bttnExecute2", "bttnTutup2",   "grdCari2"};
 
 } // namespace varnik::document

@@ -52,6 +52,7 @@ public:
         Product();
         Invoice();
         Receipt();
+        Receipts();
     }
 
 private:
@@ -112,6 +113,31 @@ private:
         Click("Bayar", "bttnPrint");
         Preview("Bayar-print");
         Click("Bayar", "bttnClose");
+    }
+
+    void Receipts() {
+        if (!Open("T02", "BayarInvoice")) return;
+        Click("BayarInvoice", "bttnNew");
+        Keys("BayarInvoice", "TxtCaraBayar", "CHEQUE");
+        Keys("BayarInvoice", "TxtRekening", "2");
+        Keys("BayarInvoice", "TxtNamaBank", "Bank Nusa");
+        Keys("BayarInvoice", "TxtNoCek", "CQ-0091");
+        Keys("BayarInvoice", "TxtPemilik", "Warung Bu Tini");
+        Keys("BayarInvoice", "TxtNoInvoice", "000000000200");
+        Press("BayarInvoice", Qt::Key_Return);
+        Click("BayarInvoice", "bttnAddLine");
+        Keys("BayarInvoice", "TxtNoInvoice", "000000000100");
+        Press("BayarInvoice", Qt::Key_Return);
+        Both("BayarInvoice", "entry");
+        Press("BayarInvoice", Qt::Key_F2);
+        Click("BayarInvoice", "Command1");
+        Click("BayarInvoice", "cmdExecute");
+        Both("BayarInvoice", "invoices");
+        Click("BayarInvoice", "cmdTutup");
+        Click("BayarInvoice", "bttnCancel");
+        Click("BayarInvoice", "bttnFind");
+        Click("BayarInvoice", "bttnExecute2");
+        Both("BayarInvoice", "search");
     }
 
     ui::ScreenWindow* Window(const std::string& screen) { return desktop_.WindowOf(screen); }

@@ -35,6 +35,25 @@ Page BayarPage() {
                       {"bttnSave", "bttnPrint", "bttnClose"});
 }
 
+Page BayarInvoicePage() {
+    Node head = Row({Card("", Form({{Field("txtNoBukti", 15)},
+                                    {Field("txtTglJurnal", 15)},
+                                    {Field("TxtCaraBayar", 15)},
+                                    {AccountOfReceipt()},
+                                    {Field("TxtNamaPenerima", 40)},
+                                    {Field("TxtMemo", 40)}}))
+                         .Share(1),
+                     Card("Cheque", Form({{Field("TxtNamaBank", 24)},
+                                          {Field("TxtNoCek", 24)},
+                                          {Field("TxtPemilik", 24)},
+                                          {Field("TxtTglJTP", 15)}}))});
+    Node entry = Card("", Row({Field("TxtNoInvoice", 13).Above(), Column({Heading(" "), Button("Command1")}),
+                               Field("TxtJumlah", 13).Above(), Field("TxtKodeCus", 12).Above(),
+                               Field("TxtNamaCus", 24).Above().Share(1),
+                               Column({Heading(" "), Button("bttnAddLine").Primary()})}));
+    return VoucherPage("BayarInvoice", {std::move(head), std::move(entry)});
+}
+
 } // namespace
 
 std::vector<Page> SalesPages() {
@@ -50,7 +69,7 @@ std::vector<Page> SalesPages() {
     Page invoice = DocumentPage(
         "Invoice",
         {std::move(header), GoodsEntry("bttnSearch", "cmdBatalLine"), Totals("TxtSaldo"), {"bttnBayar"}});
-    return {std::move(invoice), BayarPage()};
+    return {std::move(invoice), BayarPage(), BayarInvoicePage()};
 }
 
 } // namespace varnik::ui
