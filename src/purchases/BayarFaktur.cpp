@@ -84,7 +84,7 @@ BayarFaktur::BayarFaktur(Services& services)
       lines_(*this, LineTexts, services.regional),
       Command1(*this, "Command1", "..."),
       frmCari(*this, OpenPurchases()),
-      FrmCari2(*this, Payments(), document::VoucherSearch) {
+      FrmCari2(*this, Payments(), document::SecondSearch) {
     Command1.SetToolTip("Open purchases");
     Command1.SetTabStop(false);
     head_.TxtRekening.SetToolTip("The account's code is three characters, the first");
@@ -101,7 +101,9 @@ BayarFaktur::BayarFaktur(Services& services)
     head_.TxtRekening.onLeave = [this] { AccountLeft(); };
     lines_.TxtNumber.onLeave = [this] { PurchaseLeft(); };
     lines_.TxtCode.onLeave = [this] { SupplierLeft(); };
-    lines_.bttnAddLine.onClick = [this] { lines_.Add(head_.TxtMemo); };
+    lines_.bttnAddLine.onClick = [this] {
+        if (lines_.Add(head_.TxtMemo)) SetFocus(lines_.TxtNumber);
+    };
     lines_.OrderGrid.onClick = [this] {
         if (!Browsing()) lines_.TakeBack();
     };
