@@ -97,7 +97,7 @@ bool CreateDatabaseCatalog(const Services& services) {
     return true;
 }
 
-std::string CheckShopDatabase(const ado::Environment& environment, const std::filesystem::path& file) {
+std::string WhatIsMissing(const ado::Environment& environment, const std::filesystem::path& file) {
     try {
         ado::Connection connection(environment, FileConnection(file));
         for (const jet::Table& table : Tables())
@@ -105,8 +105,14 @@ std::string CheckShopDatabase(const ado::Environment& environment, const std::fi
                            ado::CursorType::Static);
         return "";
     } catch (const ado::DataError& failure) {
-        return "\"" + PathText(file) + "\" is not a database of this program: " + failure.Description();
+        return failure.Description();
     }
+}
+
+std::string CheckShopDatabase(const ado::Environment& environment, const std::filesystem::path& file) {
+    const std::string fault = WhatIsMissing(environment, file);
+    if (fault.empty()) return "";
+    return "\"" + PathText(file) + "\" is not a database of this program: " + fault;
 }
 
 void BootstrapDatabase(Services& services) {

@@ -21,5 +21,7 @@ void BootstrapDatabase(Services& services);
 
 // Nothing when the file is a database of this program, else what is wrong with it in plain English.
 std::string CheckShopDatabase(const ado::Environment& environment, const std::filesystem::path& file);
+// The same without the name of the file.
+std::string WhatIsMissing(const ado::Environment& environment, const std::filesystem::path& file);
 
 } // namespace varnik::data

@@ -76,6 +76,10 @@ bool CreateDataSource(Services& services, const std::string& path) {
     return true;
 }
 
+std::vector<std::string> DataSourceNames(const registry::Registry& registry) {
+    return registry.ValueNames(SourcesKey);
+}
+
 std::filesystem::path ResolveConnection(const registry::Registry& registry,
                                         std::string_view connectionString) {
     for (std::string_view rest = connectionString; !rest.empty();) {

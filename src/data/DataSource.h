@@ -24,6 +24,8 @@ bool WriteDataSource(registry::Registry& registry, const std::filesystem::path& 
 // Finds the driver and writes the data source, with a message when either fails. True when it stands.
 bool CreateDataSource(Services& services, const std::string& path = "");
 
+std::vector<std::string> DataSourceNames(const registry::Registry& registry);
+
 // The file behind "DSN=name" or "Provider=...; Data Source = path"; DataError for a name that is not
 // registered and a text that is neither.
 std::filesystem::path ResolveConnection(const registry::Registry& registry,

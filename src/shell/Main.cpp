@@ -7,7 +7,9 @@
 #include "platform/desktop/Services.h"
 #include "shell/Company.h"
 #include "shell/fLogin.h"
+#include "shell/f_CreateDSN.h"
 #include "shell/frmAbout.h"
+#include "shell/frmBackup.h"
 #include "shell/frmMainCode.h"
 #include "shell/frmSplash.h"
 #include "shell/fuser.h"
@@ -109,6 +111,8 @@ void RegisterShell(Services& services) {
     add(std::type_identity<frmAbout>{}, "mnuHelpAbout", "frmAbout");
     add(std::type_identity<Company>{}, "mnuSetupPerusahaan", "Company");
     add(std::type_identity<fuser>{}, "mnuToolUser", "fuser");
+    add(std::type_identity<frmBackup>{}, "mnuFileBackup", "frmBackup");
+    add(std::type_identity<f_CreateDSN>{}, "mnuConnect", "f_CreateDSN");
 }
 
 } // namespace varnik

@@ -133,9 +133,12 @@ std::optional<std::string> QtDesktop::OpenFile(const std::string& title, const s
 
 std::optional<std::string> QtDesktop::SaveFile(const std::string& title, const std::string& filter) {
     const ArrowCursor arrow;
-    const QString path = QFileDialog::getSaveFileName(Front(), ToQt(title), QString(), FilterOf(filter));
-    if (path.isEmpty()) return std::nullopt;
-    return FromQt(path);
+    QFileDialog dialog(Front(), ToQt(title), QString(), FilterOf(filter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // A name without an ending gets the filter's, before the dialog asks about a file that is there.
+    dialog.setDefaultSuffix(ToQt(filter).section(QLatin1Char('|'), 1, 1).section(QLatin1Char('.'), -1));
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return FromQt(dialog.selectedFiles().value(0));
 }
 
 bool QtDesktop::PrintDialog(const std::string& title) {

@@ -3,6 +3,10 @@
 #include "platform/ado/Errors.h"
 #include "platform/ado/Session.h"
 
+#include <cerrno>
+#include <cstdio>
+#include <system_error>
+
 #ifndef _WIN32
 #include <fcntl.h>
 #include <unistd.h>
@@ -13,21 +17,28 @@ namespace {
 
 const jet::Catalog NoCatalog;
 
+void RemoveLogs(const std::filesystem::path& file) {
+    std::error_code ignored;
+    for (const char* tail : {"-journal", "-wal", "-shm"})
+        std::filesystem::remove(file.string() + tail, ignored);
+}
+
+void RemoveWithLogs(const std::filesystem::path& file) {
+    std::error_code ignored;
+    std::filesystem::remove(file, ignored);
+    RemoveLogs(file);
+}
+
 // Removes a half-made copy unless it was kept.
 class HalfMade {
 public:
-    explicit HalfMade(std::filesystem::path file) : file_(std::move(file)) { Remove(); }
-    ~HalfMade() { Remove(); }
+    explicit HalfMade(std::filesystem::path file) : file_(std::move(file)) { RemoveWithLogs(file_); }
+    ~HalfMade() { RemoveWithLogs(file_); }
     HalfMade(const HalfMade&) = delete;
     HalfMade& operator=(const HalfMade&) = delete;
     const std::filesystem::path& File() const { return file_; }
 
 private:
-    void Remove() const {
-        std::error_code ignored;
-        for (const char* tail : {"", "-journal", "-wal", "-shm"})
-            std::filesystem::remove(file_.string() + tail, ignored);
-    }
     std::filesystem::path file_;
 };
 
@@ -47,6 +58,15 @@ void RequireSound(const std::filesystem::path& file) {
     if (!complaint.empty()) throw DataError(EngineFault, complaint);
 }
 
+void RequireWritable(const std::filesystem::path& file, const std::string& name) {
+    if (std::FILE* stream = std::fopen(file.string().c_str(), "wb")) {
+        std::fclose(stream);
+        return;
+    }
+    throw DataError(EngineFault, "The file " + name +
+                                     " cannot be written: " + std::generic_category().message(errno) + ".");
+}
+
 } // namespace
 
 void CreateDatabase(const std::filesystem::path& file) {
@@ -55,17 +75,30 @@ void CreateDatabase(const std::filesystem::path& file) {
 }
 
 void CopyDatabase(const std::filesystem::path& from, const std::filesystem::path& to) {
+    const std::string name = "\"" + to.filename().string() + "\"";
     std::error_code failure;
     if (std::filesystem::equivalent(from, to, failure) && !failure)
         throw DataError(EngineFault, "A database cannot be copied onto itself.");
     const HalfMade copy(to.string() + ".tmp");
-    Explained(from, NoCatalog, [&] { CopyEngineFile(from, copy.File(), false); });
+    RequireWritable(copy.File(), name);
+    try {
+        CopyEngineFile(from, copy.File(), false);
+    } catch (const EngineError& error) {
+        // The copy alone is written to.
+        if (error.fault == Fault::Full)
+            throw DataError(EngineFault, "The disk is full: the file " + name + " was not written.");
+        if (error.fault == Fault::Input)
+            throw DataError(EngineFault, "Reading the database \"" + from.filename().string() +
+                                             "\" or writing the file " + name + " failed: " + error.detail +
+                                             ".");
+        throw Explain(error, from, NoCatalog);
+    }
     RequireSound(copy.File());
     ReleaseSessions(to);
+    RemoveLogs(to); // those of a file that is replaced would be taken for the new one's
     std::filesystem::rename(copy.File(), to, failure);
     if (failure)
-        throw DataError(EngineFault, "The file \"" + to.filename().string() +
-                                         "\" cannot be written: " + failure.message() + ".");
+        throw DataError(EngineFault, "The file " + name + " cannot be written: " + failure.message() + ".");
     SyncFolder(to);
 }
 

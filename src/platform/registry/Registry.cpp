@@ -105,6 +105,13 @@ std::optional<std::string> Registry::QueryText(std::string_view key, std::string
     return text ? std::optional(*text) : std::nullopt;
 }
 
+std::vector<std::string> Registry::ValueNames(std::string_view key) const {
+    std::vector<std::string> names;
+    if (const auto found = keys_.find(key); found != keys_.end())
+        for (const auto& [name, data] : found->second) names.push_back(name);
+    return names;
+}
+
 bool Registry::Set(std::string_view key, std::string_view value, Data data) {
     return Set({{std::string(key), std::string(value), std::move(data)}});
 }

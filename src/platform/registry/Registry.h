@@ -38,6 +38,7 @@ public:
     bool KeyExists(std::string_view key) const;
     std::optional<Data> Query(std::string_view key, std::string_view value) const;
     std::optional<std::string> QueryText(std::string_view key, std::string_view value) const;
+    std::vector<std::string> ValueNames(std::string_view key) const; // in order; none for no such key
     // Creates the key when it is missing and writes the file at once, whole or not at all; false when
     // the file cannot be written. What stands there already is not written again.
     bool Set(std::string_view key, std::string_view value, Data data);

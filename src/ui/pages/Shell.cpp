@@ -1,4 +1,5 @@
-// Login, splash, main window, about, users, company.
+// Login, splash, main window, about, users, company,
+// backup, data source.
 
 #include "ui/pages/Page.h"
 
@@ -63,7 +64,21 @@ std::vector<Page> ShellPages() {
                                                                {Field("TxtAlamat1", 44)},
                                                                {Field("TxtAlamat2", 44)}})),
                               {"Command1", "Command2"});
-    return {Users(), company, Main(), login, splash, about, dialog};
+    Page backup = DialogPage(
+        "frmBackup",
+        Card("Back up and restore",
+             Column({Heading("A backup is a copy of the whole database in one file.").Quiet(),
+                     Heading("A restore puts such a copy in its place; the present one is kept beside it.")
+                         .Quiet()})),
+        {"cmdBackUp", "cmdRestore"});
+    Page source = DialogPage(
+        "f_CreateDSN",
+        Column({Inside("Frame1", Card("Database", Row({Form({{Field("Text1", 48).By("Label1")}}).Share(1),
+                                                       Button("Command4")}))),
+                Inside("Frame2", Card("Kind of data source", Row({Field("Option0(0)"), Field("Option0(1)"),
+                                                                  Field("Option0(2)"), Spring()})))}),
+        {"cmdCreate", "cmdModify", "cmdDelete", "cmdVerify", "cmdShowOM"});
+    return {backup, source, Users(), company, Main(), login, splash, about, dialog};
 }
 
 } // namespace varnik::ui
