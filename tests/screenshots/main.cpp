@@ -53,6 +53,7 @@ public:
         Invoice();
         Receipt();
         Receipts();
+        Return();
     }
 
 private:
@@ -138,6 +139,21 @@ private:
         Click("BayarInvoice", "bttnFind");
         Click("BayarInvoice", "bttnExecute2");
         Both("BayarInvoice", "search");
+    }
+
+    void Return() {
+        if (!Open("T03", "InvoiceRetur")) return;
+        Click("InvoiceRetur", "bttnNew");
+        Keys("InvoiceRetur", "TxtNoInvoice", "000000000100");
+        Press("InvoiceRetur", Qt::Key_Return);
+        Both("InvoiceRetur", "loaded");
+        Click("InvoiceRetur", "bttnSave");
+        Both("InvoiceRetur", "saved");
+        Click("InvoiceRetur", "bttnPrint");
+        Preview("InvoiceRetur-print");
+        Click("InvoiceRetur", "bttnFind");
+        Click("InvoiceRetur", "bttnExecute2");
+        Both("InvoiceRetur", "search");
     }
 
     ui::ScreenWindow* Window(const std::string& screen) { return desktop_.WindowOf(screen); }

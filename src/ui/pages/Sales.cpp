@@ -54,6 +54,29 @@ Page BayarInvoicePage() {
     return VoucherPage("BayarInvoice", {std::move(head), std::move(entry)});
 }
 
+Page InvoiceReturPage() {
+    Node header = Row({Card("", Form({{Field("TxtReturID", 15)},
+                                      {Field("TxtTglRetur", 15)},
+                                      {Row({Field("TxtNoInvoice", 15), Button("bttnSearch"), Spring()})},
+                                      {Field("TxtTglInvoice", 15)},
+                                      {Field("TxtPPN", 6)}})),
+                       Card("", Form({{Field("TxtKodeCus", 15)},
+                                      {Field("TxtNamaCus")},
+                                      {Field("TxtAlamat")},
+                                      {Field("txtket")},
+                                      {Field("Combo1", 20)}}))
+                           .Share(1)});
+    Node totals = Card("", Form({{Field("TxtJumBru", 12), Field("TxtJumNetto", 12)},
+                                 {Field("TxtJumDis", 12), Field("TxtJumPPN", 12)},
+                                 {Field("txtJumTotal", 14).Total().Label("Total").Span(2)}}));
+    Page page = DocumentPage("InvoiceRetur", {.header = std::move(header),
+                                              .entry = GoodsEntry("", "cmdBatalLine"),
+                                              .totals = std::move(totals),
+                                              .lookup = ""});
+    page.overlays.push_back(SecondSearchOver());
+    return page;
+}
+
 } // namespace
 
 std::vector<Page> SalesPages() {
@@ -69,7 +92,7 @@ std::vector<Page> SalesPages() {
     Page invoice = DocumentPage(
         "Invoice",
         {std::move(header), GoodsEntry("bttnSearch", "cmdBatalLine"), Totals("TxtSaldo"), {"bttnBayar"}});
-    return {std::move(invoice), BayarPage(), BayarInvoicePage()};
+    return {std::move(invoice), BayarPage(), BayarInvoicePage(), InvoiceReturPage()};
 }
 
 } // namespace varnik::ui

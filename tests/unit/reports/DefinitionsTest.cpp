@@ -26,6 +26,12 @@ const std::vector<Case> Cases = {
 000000012300|PO-7|2026-11-22|2026-12-22|1236363.64|123636.36|1360000||0000000001|12|SAK|65000|780000|CV Bangun Persada|Jl. Asia Afrika 5|||Bandung|Semen Portland 40 kg|0|0000000001
 000000012300|PO-7|2026-11-22|2026-12-22|1236363.64|123636.36|1360000||0000000002|2.5|M3|250000|580000|CV Bangun Persada|Jl. Asia Afrika 5|||Bandung|Pasir beton dari Cimalaka, dicuci dan disaring, diantar sampai ke tempat pembangunan|45000|0000000001
 )"},
+    {"InvoiceRetur",
+     "InvoiceRetur.rpt",
+     {},
+     R"(ReturID|NoInvoice|TglRetur@|TglInvoice@|Netto#|PPN#|Total#|KodeCus|NamaCus|Alamat_1|Alamat_2|Alamat_3|Kota|NamaBrg|KodeBrg|Qty#|Satuan|Harga#|Disc#|Total2#|Ket2
+000000000500|000000012300|2026-11-24|2026-11-22|354545.45|35454.55|390000|0000000001|CV Bangun Persada|Jl. Asia Afrika 5|||Bandung|Semen Portland 40 kg|0000000001|6|SAK|65000|0|390000|RUSAK
+)"},
     {"BKM2",
      "BKM2.rpt",
      {},
