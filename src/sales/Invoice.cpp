@@ -58,7 +58,7 @@ Invoice::Invoice(Services& services)
       txtCusPO(*this, "txtCusPO", "Customer PO"),
       TxtJTP(*this, "TxtJTP", "Due Date"),
       TxtPPN(*this, "TxtPPN", "Tax (%)"),
-      TxtKodeCus(*this, "TxtKodeCus", "Customer ID"),
+      TxtKodeCus(*this, "TxtKodeCus", "&Customer ID"),
       TxtNamaCus(*this, "TxtNamaCus", "Name"),
       TxtAlamat1(*this, "TxtAlamat1", "Address"),
       TxtAlamat2(*this, "TxtAlamat2"),
@@ -274,7 +274,10 @@ void Invoice::CustomerLeft() {
     unknownCustomer_.reset();
     ShowCustomer(customer);
     // The first line opens as soon as it is known who buys.
-    if (Mode() == EntryMode::New && OrderGrid.LastRow() == 1 && !line_.IsShown()) OpenEmptyLine();
+    if (Mode() == EntryMode::New && OrderGrid.LastRow() == 1 && !line_.IsShown()) {
+        OpenEmptyLine();
+        if (MovingOn()) SetFocus(line_.txtKodeBrg);
+    }
 }
 
 void Invoice::ShowCustomer(ado::Recordset& customer) {

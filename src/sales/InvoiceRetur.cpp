@@ -49,7 +49,7 @@ constexpr int NumberColumn = 2; // of both searches
 document::SearchLayout SearchOf(std::string_view select, std::span<const document::SearchChoice> choices,
                                 std::vector<forms::GridColumn> numberAndDate,
                                 std::vector<forms::GridColumn> amounts) {
-    std::vector<forms::GridColumn> columns{{"Cus ID", forms::Align::Left, 10},
+    std::vector<forms::GridColumn> columns{{"Cus ID", forms::Align::Left, 12},
                                            {"Name Of Customer", forms::Align::Left, 26}};
     columns.insert(columns.end(), numberAndDate.begin(), numberAndDate.end());
     columns.insert(columns.end(), amounts.begin(), amounts.end());
@@ -61,7 +61,7 @@ document::SearchLayout InvoiceSearch() {
     return SearchOf("SELECT Customer.KodeCus, Customer.NamaCus, Invoice.NoInvoice, Invoice.TglInvoice, "
                     "Invoice.Bruto, Invoice.Disc, Invoice.Netto, Invoice.PPN, Invoice.Total, Invoice.Bayar, "
                     "Invoice.Saldo  FROM Customer INNER JOIN Invoice ON Customer.KodeCus = Invoice.KodeCus ",
-                    Invoices, {{"Invoice ID", Align::Left, 12}, {"Inv Date", Align::Left, 10}},
+                    Invoices, {{"Invoice ID", Align::Left, 14}, {"Inv Date", Align::Left, 12}},
                     {{"Bruto", Align::Right, 11},
                      {"Disc", Align::Right, 9},
                      {"Netto", Align::Right, 11},
@@ -79,7 +79,7 @@ document::SearchLayout ReturnSearch() {
         "InvoiceRetur.PPN, InvoiceRetur.Total  FROM Customer INNER JOIN InvoiceRetur ON "
         "Customer.KodeCus = InvoiceRetur.KodeCus ",
         Returns,
-        {{"Returns ID", Align::Left, 12}, {"Date", Align::Left, 10}, {"Invoice ID", Align::Left, 12}},
+        {{"Returns ID", Align::Left, 14}, {"Date", Align::Left, 12}, {"Invoice ID", Align::Left, 14}},
         {{"Bruto", Align::Right, 11},
          {"Disc", Align::Right, 9},
          {"Netto", Align::Right, 11},

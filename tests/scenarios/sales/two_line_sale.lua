@@ -28,7 +28,6 @@ enter(focused(), "0000000001")
 expect(text "TxtNamaCus", "Toko Maju")
 expect(text "TxtAlamat2", "Blok B")
 expect(text "TxtJTP", "12/22/2026")
-keys "{Enter}{Enter}{Enter}{Enter}"
 expect(focused(), "txtKodeBrg")
 enter(focused(), "0000000001")
 expect(focused(), "txtQty")
