@@ -1,6 +1,7 @@
 // A posted invoice on the screen, and on paper.
 
 #include "sales/Invoice.h"
+#include "sales/InvoiceRows.h"
 
 namespace varnik {
 
@@ -11,26 +12,12 @@ void Invoice::LoadInvoice(const std::string& number) {
         ado::Recordset invoice, details;
         bool found = false;
         step.Step([&] { connection.Open(Sess().ConnectionString); });
-        step.Step([&] {
-            invoice.Open(
-                "SELECT Customer.KodeCus, Customer.NamaCus, Customer.Alamat_1, Customer.Alamat_2, "
-                "Customer.Alamat_3, Customer.Kota, Invoice.NoInvoice, Invoice.TglInvoice, Invoice.CusPo, "
-                "Invoice.TglJTP, nPPN,Invoice.Bruto, Invoice.Disc, Invoice.Netto, Invoice.PPN, "
-                "Invoice.Total, Invoice.Bayar, Invoice.Saldo  FROM Customer INNER JOIN Invoice ON "
-                "Customer.KodeCus = Invoice.KodeCus Where Invoice.NoInvoice ='" +
-                    number + "'",
-                connection, ado::CursorType::Static);
-        });
+        step.Step([&] { invoice.Open(InvoiceHeaderOf(number), connection, ado::CursorType::Static); });
         // An invoice whose customer is gone is not found, and the screen stays as it is.
         step.Step([&] { found = invoice.IsOpen() && !invoice.Empty(); });
         if (!found) return;
         ShowHeader(step, invoice);
-        step.Step([&] {
-            details.Open("Select KodeBrg, Diskripsi, Qty,Satuan,Harga, Disc,Total, Qty2 From InvoiceDetail "
-                         "Where NoInvoice ='" +
-                             number + "'",
-                         connection, ado::CursorType::Static);
-        });
+        step.Step([&] { details.Open(InvoiceLinesOf(number), connection, ado::CursorType::Static); });
         if (details.IsOpen()) ShowLines(step, OrderGrid, details, "Diskripsi");
     });
 }

@@ -1,6 +1,7 @@
 // A return on the screen and on paper, and the invoice that a new one returns from.
 
 #include "sales/InvoiceRetur.h"
+#include "sales/InvoiceRows.h"
 
 namespace varnik {
 
@@ -33,26 +34,12 @@ void InvoiceRetur::LoadInvoiceForRetur(const std::string& number) {
     Guard(Desk(), "Err No ").Run([&](Guard& step) {
         ado::Recordset invoice, details;
         bool found = false;
-        step.Step([&] {
-            invoice.Open(
-                "SELECT Customer.KodeCus, Customer.NamaCus, Customer.Alamat_1, Customer.Alamat_2, "
-                "Customer.Alamat_3, Customer.Kota, Invoice.NoInvoice, Invoice.TglInvoice, Invoice.CusPo, "
-                "Invoice.TglJTP, nPPN,Invoice.Bruto, Invoice.Disc, Invoice.Netto, Invoice.PPN, "
-                "Invoice.Total, Invoice.Bayar, Invoice.Saldo  FROM Customer INNER JOIN Invoice ON "
-                "Customer.KodeCus = Invoice.KodeCus Where Invoice.NoInvoice ='" +
-                    number + "'",
-                Data(), ado::CursorType::Static);
-        });
+        step.Step([&] { invoice.Open(InvoiceHeaderOf(number), Data(), ado::CursorType::Static); });
         step.Step([&] { found = invoice.IsOpen() && !invoice.Empty(); });
         if (!found) return;
         OrderGrid.ClearGrid();
         ShowSource(step, invoice);
-        step.Step([&] {
-            details.Open("Select KodeBrg, Diskripsi, Qty,Satuan,Harga, Disc,Total, Qty2 From InvoiceDetail "
-                         "Where NoInvoice ='" +
-                             number + "'",
-                         Data(), ado::CursorType::Static);
-        });
+        step.Step([&] { details.Open(InvoiceLinesOf(number), Data(), ado::CursorType::Static); });
         if (details.IsOpen()) ShowLines(step, OrderGrid, details, "Diskripsi");
     });
 }
