@@ -80,11 +80,15 @@ void Restore(const Services& services, const fs::path& from) {
         ado::CopyDatabase(candidate.File(), target);
         return;
     }
-    KeepAside(target, NameForTheOld(target, services.desktop.Now()));
+    const fs::path aside = NameForTheOld(target, services.desktop.Now());
+    KeepAside(target, aside);
     try {
         ado::RestoreDatabase(candidate.File(), target);
     } catch (const ado::DataError&) {
-        if (ado::CheckDatabase(target).empty()) throw;
+        if (ado::CheckDatabase(target).empty()) { // it is as it was
+            fs::remove(aside, none);
+            throw;
+        }
         // Damaged too badly to take the content: the whole file is replaced.
         ado::CopyDatabase(candidate.File(), target);
     }

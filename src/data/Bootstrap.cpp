@@ -79,8 +79,12 @@ bool CreateDatabaseCatalog(const Services& services) {
 
     std::filesystem::path fresh = file;
     fresh += ".new";
-    for (const char* tail : {"", "-wal", "-shm", "-journal"}) // of a start that was cut off
-        std::filesystem::remove(fresh.string() + tail, error);
+    const auto remove = [&] {
+        ado::ReleaseDatabase(fresh);
+        for (const char* tail : {"", "-wal", "-shm", "-journal"})
+            std::filesystem::remove(fresh.string() + tail, error);
+    };
+    remove(); // of a start that was cut off
     try {
         ado::CreateDatabase(fresh);
         ado::Connection connection(services.data, FileConnection(fresh));
@@ -90,7 +94,7 @@ bool CreateDatabaseCatalog(const Services& services) {
         ado::ReleaseDatabase(fresh);
         std::filesystem::rename(fresh, file);
     } catch (const std::exception& failure) {
-        std::filesystem::remove(fresh, error);
+        remove();
         throw ado::DataError(ado::EngineFault,
                              "The database \"" + PathText(file) + "\" cannot be created: " + failure.what());
     }

@@ -74,7 +74,7 @@ void fuser::ClearFields() {
 
 void fuser::ShowUser() {
     if (users_.Eof()) {
-        shown_.clear();
+        shown_.reset();
         txtUserId.SetText("");
         ClearFields();
     } else {
@@ -133,6 +133,14 @@ void fuser::FindCode(const std::string& code) {
     users_.Find("NoUser = '" + code + "'");
 }
 
+// What shows is the current row: a refused save and a search in vain have moved on.
+void fuser::BackToShown() {
+    if (shown_)
+        FindCode(*shown_);
+    else
+        users_.MoveFirst();
+}
+
 void fuser::SaveUser() {
     const std::string code = TxtNoUser.Text();
     FindCode(code);
@@ -183,7 +191,7 @@ void fuser::OkClick() {
 
 void fuser::CancelClick() {
     Browse();
-    Resume([this] { FindCode(shown_); }); // a refused save has moved on
+    Resume([this] { BackToShown(); });
     ShowUser();
     RefreshRights();
 }
@@ -216,7 +224,7 @@ void fuser::FindClick() {
         users_.Find("UserId LIKE '" + *name + "'");
         if (users_.Eof()) {
             Say("Could not find the user id " + *name);
-            FindCode(shown_); // what shows is what Delete takes
+            BackToShown();
             return;
         }
         ShowUser();

@@ -7,6 +7,8 @@
 
 #include "platform/desktop/ProgramScreen.h"
 
+#include <optional>
+
 namespace varnik {
 
 class fuser : public ProgramScreen {
@@ -40,6 +42,7 @@ private:
     void RefreshRights();
     void FillGrid(const std::function<bool(const std::string& menu)>& granted);
     void FindCode(const std::string& code);
+    void BackToShown();
     void SaveUser();
     void AddClick();
     void EditClick();
@@ -50,7 +53,7 @@ private:
 
     ado::Connection connection_;
     ado::Recordset users_, menus_;
-    std::string shown_; // the code of the user on screen, "" before one is
+    std::optional<std::string> shown_; // the code of the user on screen
     bool editing_ = false;
 };
 

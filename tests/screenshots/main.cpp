@@ -50,6 +50,7 @@ public:
             Both(entry.name.c_str());
         }
         Product();
+        User();
         Invoice();
         Receipt();
         Receipts();
@@ -70,6 +71,15 @@ private:
         Click("fProduk", "bttnFind");
         Click("fProduk", "cmdExecute");
         Both("fProduk", "search");
+    }
+
+    void User() {
+        if (!Open("mnuToolUser", "fuser")) return;
+        Click("fuser", "bttnAdd");
+        Click("fuser", "bttnCancel"); // shows the first user
+        Click("fuser", "bttnEdit");
+        Both("fuser", "edit");
+        Click("fuser", "bttnCancel");
     }
 
     void Invoice() {

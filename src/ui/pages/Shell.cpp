@@ -29,7 +29,7 @@ Page Main() {
 // Name, code, password and rights at the left, the menu at the right in its whole length.
 Page Users() {
     Node tools = Row({Button("bttnAdd"), Button("bttnEdit"), Button("bttnDelete"), Button("bttnFind"),
-                      Button("bttnOK").Primary(), Button("bttnCancel"), Spring(), Button("bttnClose")});
+                      Spring(), Button("bttnOK").Primary(), Button("bttnCancel"), Button("bttnClose")});
     Node user = Column(
         {Card("User", Form({{Field("txtUserId", 20)}, {Field("TxtNoUser", 6)}, {Field("txtPass", 20)}})),
          Card("Rights", Column({Field("Tambah"), Field("Lihat"), Field("Ganti"), Field("Hapus")})),
@@ -73,9 +73,9 @@ std::vector<Page> ShellPages() {
         {"cmdBackUp", "cmdRestore"});
     Page source = DialogPage(
         "f_CreateDSN",
-        Column({Inside("Frame1", Card("Database", Row({Form({{Field("Text1", 48).By("Label1")}}).Share(1),
-                                                       Button("Command4")}))),
-                Inside("Frame2", Card("Kind of data source", Row({Field("Option0(0)"), Field("Option0(1)"),
+        Column({Card("Database", Inside("Frame1", Form({{Row({Field("Text1", 34).By("Label1").Share(1),
+                                                              Button("Command4")})}}))),
+                Card("Kind of data source", Inside("Frame2", Row({Field("Option0(0)"), Field("Option0(1)"),
                                                                   Field("Option0(2)"), Spring()})))}),
         {"cmdCreate", "cmdModify", "cmdDelete", "cmdVerify", "cmdShowOM"});
     return {backup, source, Users(), company, Main(), login, splash, about, dialog};

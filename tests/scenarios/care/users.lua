@@ -55,6 +55,12 @@ end
 expect(visible "bttnOK", false)
 expect(visible "bttnDelete", true)
 
+click "bttnAdd"
+expect(focused(), "txtUserId")
+expect(access(), "")
+type("txtUserId", "x{Esc}")
+expect(text "txtUserId", "varnik") -- the current row
+
 scenario "A user is found by name, wildcards and all, and shows with the password in clear"
 find "VAR*"
 expect(text "txtUserId", "varnik")
