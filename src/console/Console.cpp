@@ -56,6 +56,7 @@ struct Console::Impl {
     static int Trampoline(lua_State* lua);
     bool RunScript(const fs::path& script, const std::vector<std::string>& arguments);
     void CheckLeftovers();
+    void PrintUnaskedBoxes();
 
     Stage stage;
     fs::path programsFolder;
@@ -162,6 +163,10 @@ bool Console::Impl::RunScript(const fs::path& script, const std::vector<std::str
 void Console::Impl::CheckLeftovers() {
     for (const auto& answer : stage.desktop.answers)
         stage.Fail("an answer was left over: " + (answer.text.empty() ? NameOf(answer.button) : answer.text));
+}
+
+// Of a script that broke too: what the program said before is mostly the reason.
+void Console::Impl::PrintUnaskedBoxes() {
     for (const Box& box : stage.desktop.boxes)
         stage.out << "a box that nobody asked for: \"" << box.text << "\"\n";
 }
@@ -169,6 +174,7 @@ void Console::Impl::CheckLeftovers() {
 int Console::Run(const fs::path& script, const std::vector<std::string>& arguments) {
     Stage& stage = impl_->stage;
     if (impl_->RunScript(script, arguments)) impl_->CheckLeftovers();
+    impl_->PrintUnaskedBoxes();
     stage.out << stage.passed << " passed, " << stage.failed << " failed" << std::endl;
     return stage.failed == 0 ? 0 : 1;
 }

@@ -266,6 +266,10 @@ TEST(Failures, UnaskedBoxesArePrintedAndFailNothing) {
     const Outcome outcome = RunScript("start() click \"Say\" message()");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output, "a box that nobody asked for: \"second\"\n0 passed, 0 failed\n");
+    const Outcome broken = RunScript("start() click \"Say\" message() login(\"a\", \"b\")");
+    EXPECT_EQ(broken.status, 1);
+    EXPECT_THAT(broken.output, HasSubstr("the login screen is not there"));
+    EXPECT_THAT(broken.output, EndsWith("nobody asked for: \"second\"\n0 passed, 1 failed\n"));
 }
 
 TEST(Script, WorksInTheFolderItWasStartedFrom) {
