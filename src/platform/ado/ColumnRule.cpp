@@ -4,6 +4,7 @@
 #include "common/Text.h"
 
 #include <cfenv>
+#include <charconv>
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
@@ -32,6 +33,18 @@ std::int64_t ToWhole(double number, std::int64_t least, std::int64_t most, const
     const double rounded = std::nearbyint(number); // half to even, the rounding mode of the machine
     if (!(rounded >= static_cast<double>(least) && rounded <= static_cast<double>(most))) Overflows(name);
     return static_cast<std::int64_t>(rounded);
+}
+
+// A fraction of four bytes as the shortest decimal that stands for it: 0.1 stays 0.1, so that a column's
+// values show as they were entered, and an amount less itself is nothing when its twin column is wider. Whole
+// numbers stay what the four bytes hold.
+double WithoutTail(float narrow) {
+    double number = static_cast<double>(narrow);
+    if (std::nearbyint(number) == number) return number;
+    char digits[40];
+    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, narrow);
+    std::from_chars(digits, end.ptr, number);
+    return number;
 }
 
 DateTime ToDate(const Value& value, const Regional& regional, const std::string& name) {
@@ -103,7 +116,7 @@ Value ToColumn(const Value& value, const jet::Table& table, const jet::Column& c
         const double wide = number();
         const auto narrow = static_cast<float>(wide);
         if (!std::isfinite(narrow)) Overflows(NameOf(table, column));
-        return static_cast<double>(narrow);
+        return WithoutTail(narrow);
     }
     case Type::Decimal: {
         const double wide = number();

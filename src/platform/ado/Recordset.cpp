@@ -101,17 +101,12 @@ void Recordset::Impl::Insert(const jet::Table& table) {
         row[static_cast<std::size_t>(&column - table.columns.data())] =
             ToColumn(*edits[i], table, column, regional);
     }
-    std::string names, marks;
     for (std::size_t i = 0; i < row.size(); ++i) {
         const jet::Column& column = table.columns[i];
         if (column.required && !column.autoIncrement && row[i].IsNull())
             throw EngineError{Fault::Required, std::string(table.name) + "." + std::string(column.name)};
-        names.append(i ? ",\"" : "\"").append(column.name).append("\"");
-        marks.append(i ? ",?" : "?").append(std::to_string(i + 1));
     }
-    Running running(session.Compile("insert into \"" + std::string(table.name) + "\" (" + names +
-                                    ") values (" + marks + ")"),
-                    row);
+    Running running(session.CompileInsert(table), row);
     session.Write(running);
     connection->wrote = true;
     const std::int64_t number = session.Native().LastRow();

@@ -46,6 +46,7 @@ void Session::Surround(const Environment& environment) {
     if (environment.catalog.tables.data() != environment_->catalog.tables.data()) {
         forms_.Clear();
         compiled_.Clear();
+        inserts_.clear();
     }
     environment_ = &environment;
     engine_->Surround(this, environment.busyTimeoutMs);
@@ -106,6 +107,18 @@ std::shared_ptr<Compiled> Session::Compile(const std::string& sql) {
     return compiled;
 }
 
+std::shared_ptr<Compiled> Session::CompileInsert(const jet::Table& table) {
+    std::shared_ptr<Compiled>& known = inserts_[&table];
+    if (known) return known;
+    std::string names, marks;
+    for (const jet::Column& column : table.columns) {
+        names.append(names.empty() ? "\"" : ",\"").append(column.name).append("\"");
+        marks.append(marks.empty() ? "?" : ",?");
+    }
+    known = Compile("insert into \"" + std::string(table.name) + "\" (" + names + ") values (" + marks + ")");
+    return known;
+}
+
 long Session::Write(Running& running) {
     running.Step();
     ++state_->writes;
@@ -116,6 +129,7 @@ long Session::Write(Running& running) {
 void Session::RunNative(std::string_view script) {
     forms_.Clear();
     compiled_.Clear();
+    inserts_.clear();
     engine_->Run(script);
     ++state_->writes;
     state_->unsynced = true;

@@ -103,6 +103,9 @@ public:
 
     std::shared_ptr<const jet::Form> FormOf(const jet::Tokens& tokens);
     std::shared_ptr<Compiled> Compile(const std::string& sql);
+    // The statement that adds a row with all columns of the table, kept ready: joining its text took longer
+    // than finding it.
+    std::shared_ptr<Compiled> CompileInsert(const jet::Table& table);
     // Runs a writing statement; the rows it changed.
     long Write(Running& running);
     void RunNative(std::string_view script); // forgets what was compiled
@@ -128,6 +131,7 @@ private:
     std::unique_ptr<Engine> engine_;
     RecentlyUsed<const jet::Form> forms_{256};
     RecentlyUsed<Compiled> compiled_{256};
+    std::unordered_map<const jet::Table*, std::shared_ptr<Compiled>> inserts_;
     Statistics statistics_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "tests/unit/ado/Fixture.h"
 
+#include <cmath>
 #include <limits>
 
 namespace varnik::ado {
@@ -28,9 +29,11 @@ TEST_F(ColumnRuleTest, RoundsReadsAndRefusesAlikeBothWays) {
     regional.decimal = ',';
     regional.group = '.';
     const Case cases[] = {
-        {"S", 0.1, "0.1", static_cast<double>(0.1F)},
+        {"S", 0.1, "0.1", 0.1},
+        {"S", 1.0 / 3, "1 / 3", 0.33333334},
         {"S", 16777217, "16777217", 16777216.0},
-        {"S", 1234567.89, "1234567.89", 1234567.875},
+        {"S", 123456789, "123456789", 123456792.0},
+        {"S", 1234567.89, "1234567.89", 1234567.9},
         {"S", 1e39, "1e39", {}, Overflow},
         {"S", "1.234,5", "'1.234,5'", 1234.5},
         {"S", "viele", "'viele'", {}, TypeMismatch},
@@ -99,6 +102,25 @@ TEST_F(ColumnRuleTest, RoundsReadsAndRefusesAlikeBothWays) {
                   rows.Update();
               }),
               Overflow);
+}
+
+// A single beside a double: what is taken step by step leaves nothing behind, and the text that a screen
+// shows finds the row again.
+TEST_F(ColumnRuleTest, FractionsOfFourBytesLeaveNoDust) {
+    Run("Update Widths Set S = 1234.1, D = 1234.1, C = 0.3");
+    EXPECT_EQ(Ask("Select D - S From Widths"), 0.0);
+    EXPECT_EQ(ShowValue(Ask("Select S From Widths"), regional), "1234.1");
+    EXPECT_EQ(Ask("Select X From Widths Where S = 1234.1"), "row");
+    Run("Update Widths Set S = 0.3");
+    for (int i = 0; i < 3; ++i) Run("Update Widths Set S = S - 0.1");
+    EXPECT_LT(std::abs(Ask("Select S From Widths").Double()), 1e-15);
+    Connection connection = Open();
+    Recordset rows("Select * From Widths", connection);
+    rows["S"] = 0.1;
+    rows.Update();
+    EXPECT_EQ(rows["S"].Value(), 0.1);
+    rows.Find("S = 0.1");
+    EXPECT_FALSE(rows.Eof());
 }
 
 TEST_F(ColumnRuleTest, CountsAsTheScreensExpect) {
