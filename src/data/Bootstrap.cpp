@@ -69,6 +69,15 @@ void WriteSeedRows(ado::Connection& connection) {
                            "')");
 }
 
+// A program that was killed leaves a log beside its database. When the database alone is deleted then, the
+// log would be taken for the new one's; it is kept aside, in case the database comes back.
+void KeepStrayLogsAside(const std::filesystem::path& file) {
+    std::error_code ignored;
+    for (const char* tail : {"-wal", "-journal"})
+        std::filesystem::rename(file.string() + tail, file.string() + tail + ".old", ignored);
+    std::filesystem::remove(file.string() + "-shm", ignored);
+}
+
 } // namespace
 
 bool CreateDatabaseCatalog(const Services& services) {
@@ -92,6 +101,7 @@ bool CreateDatabaseCatalog(const Services& services) {
         WriteSeedRows(connection);
         connection.Close();
         ado::ReleaseDatabase(fresh);
+        KeepStrayLogsAside(file);
         std::filesystem::rename(fresh, file);
     } catch (const std::exception& failure) {
         remove();

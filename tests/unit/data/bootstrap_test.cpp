@@ -58,6 +58,26 @@ TEST(Bootstrap, ALaterStartChangesNothingAndPointsTheDataSourceBack) {
     EXPECT_TRUE(shop.desktop.boxes.empty());
 }
 
+// Of a program that was killed: the log that it left is not the new database's.
+TEST(Bootstrap, ALogWithoutItsDatabaseIsKeptAside) {
+    TemporaryShop shop;
+    const std::filesystem::path file = data::DatabaseFile(shop.folder.Path()), log = file.string() + "-wal";
+    const std::filesystem::path killed = shop.folder.Path() / "killed";
+    {
+        ado::Connection open = shop.Connect();
+        open.Execute("Insert Into MenuList (MenuID) Values ('OLD')");
+        std::filesystem::copy_file(log, killed); // as the file stands while it is in use
+    }
+    const std::string content = ReadFile(killed);
+    ASSERT_FALSE(content.empty());
+    ado::ReleaseDatabase(file);
+    std::filesystem::remove(file);
+    std::filesystem::rename(killed, log);
+    data::BootstrapDatabase(shop.services);
+    EXPECT_EQ(shop.Rows("Select * From MenuList").size(), 22u);
+    EXPECT_EQ(ReadFile(log.string() + ".old"), content);
+}
+
 TEST(Bootstrap, ADatabaseFromAnotherMachineIsFoundInAnyCase) {
     EmptyShop shop;
     {
