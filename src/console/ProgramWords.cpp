@@ -186,7 +186,8 @@ void Sql(Stage& stage, Call& call) {
     if (source.empty()) throw ScriptError{"the data is there after start()"};
     ado::Connection connection(stage.host.services.data, source);
     const std::string statement = call.Text(1);
-    if (!EqualsNoCase(Left(Trim(statement), 6), "select")) {
+    const std::size_t first = std::min(statement.find_first_not_of(" \t\r\n"), statement.size());
+    if (!EqualsNoCase(statement.substr(first, 6), "select")) {
         call.Give(static_cast<int>(connection.Execute(statement)));
         return;
     }

@@ -6,6 +6,9 @@
 #include "data/Queries.h"
 #include "data/Schema.h"
 
+#include <chrono>
+#include <random>
+
 namespace varnik::data {
 namespace {
 
@@ -78,6 +81,32 @@ void KeepStrayLogsAside(const std::filesystem::path& file) {
     std::filesystem::remove(file.string() + "-shm", ignored);
 }
 
+// The new database is built beside its place, under a name of its own: several workstations may start on one
+// folder for the first time. What a start that was cut off left behind goes when nobody can be at it still.
+std::filesystem::path NameForTheNew(const std::filesystem::path& file) {
+    const std::string stem = PathText(file.filename()) + ".new";
+    const auto yesterday = std::filesystem::file_time_type::clock::now() - std::chrono::hours(24);
+    std::error_code ignored;
+    std::vector<std::filesystem::path> left;
+    for (const auto& entry : std::filesystem::directory_iterator(file.parent_path(), ignored))
+        if (PathText(entry.path().filename()).starts_with(stem) && entry.last_write_time(ignored) < yesterday)
+            left.push_back(entry.path());
+    for (const std::filesystem::path& path : left) std::filesystem::remove(path, ignored);
+    return file.parent_path() / (stem + std::to_string(std::random_device()()));
+}
+
+// Puts the whole database in its place; false when another workstation was first.
+bool Publish(const std::filesystem::path& fresh, const std::filesystem::path& file) {
+    std::error_code failure, ignored;
+    std::filesystem::create_hard_link(fresh, file, failure); // takes no place that is taken, unlike renaming
+    const bool first = !failure || !std::filesystem::exists(file, ignored);
+    if (failure && first)
+        std::filesystem::rename(fresh, file); // the file system has no links
+    else
+        std::filesystem::remove(fresh, ignored);
+    return first;
+}
+
 } // namespace
 
 bool CreateDatabaseCatalog(const Services& services) {
@@ -86,14 +115,13 @@ bool CreateDatabaseCatalog(const Services& services) {
     std::filesystem::create_directories(file.parent_path(), error);
     if (std::filesystem::exists(file, error)) return false;
 
-    std::filesystem::path fresh = file;
-    fresh += ".new";
+    KeepStrayLogsAside(file);
+    const std::filesystem::path fresh = NameForTheNew(file);
     const auto remove = [&] {
         ado::ReleaseDatabase(fresh);
         for (const char* tail : {"", "-wal", "-shm", "-journal"})
             std::filesystem::remove(fresh.string() + tail, error);
     };
-    remove(); // of a start that was cut off
     try {
         ado::CreateDatabase(fresh);
         ado::Connection connection(services.data, FileConnection(fresh));
@@ -101,14 +129,13 @@ bool CreateDatabaseCatalog(const Services& services) {
         WriteSeedRows(connection);
         connection.Close();
         ado::ReleaseDatabase(fresh);
-        KeepStrayLogsAside(file);
-        std::filesystem::rename(fresh, file);
+        if (Publish(fresh, file)) return true;
     } catch (const std::exception& failure) {
         remove();
         throw ado::DataError(ado::EngineFault,
                              "The database \"" + PathText(file) + "\" cannot be created: " + failure.what());
     }
-    return true;
+    return false;
 }
 
 std::string WhatIsMissing(const ado::Environment& environment, const std::filesystem::path& file) {

@@ -61,6 +61,14 @@ DateTime ToDate(const Value& value, const Regional& regional, const std::string&
     return DateTime{FirstDay + static_cast<std::int32_t>(day) + second / 86400, second % 86400};
 }
 
+// A year of five digits or none could not be read back.
+DateTime ToStoredDate(const Value& value, const Regional& regional, const std::string& name) {
+    static const std::int32_t first = MakeDate(1, 1, 1)->day, last = MakeDate(9999, 12, 31)->day;
+    const DateTime date = ToDate(value, regional, name);
+    if (date.day < first || date.day > last) Overflows(name);
+    return date;
+}
+
 bool ToBool(const Value& value, const Regional& regional, const std::string& name) {
     if (value.IsBool()) return value.Bool();
     if (value.IsText()) {
@@ -134,7 +142,7 @@ Value ToColumn(const Value& value, const jet::Table& table, const jet::Column& c
     case Type::Boolean:
         return ToBool(value, regional, NameOf(table, column));
     case Type::Date:
-        return ToDate(value, regional, NameOf(table, column));
+        return ToStoredDate(value, regional, NameOf(table, column));
     case Type::Text:
         break;
     }

@@ -16,7 +16,7 @@ constexpr std::size_t MaximumSteps = 64; // and with that the depth of the stack
 struct Expression::Reader {
     std::string_view text;
     std::vector<Step>& steps;
-    std::size_t at = 0;
+    std::size_t at = 0, depth = 0;
 
     char Peek() {
         while (at < text.size() && text[at] == ' ') ++at;
@@ -47,6 +47,11 @@ struct Expression::Reader {
         }
     }
     void Factor() {
+        if (++depth > MaximumSteps) Fail("it is nested too deep");
+        ReadFactor();
+        --depth;
+    }
+    void ReadFactor() {
         if (Take('-')) {
             Factor();
             steps.push_back({'~'});

@@ -8,6 +8,7 @@ expect(caption(), "Varnik - Varnik Small Business")
 expect(text("sbStatusBar", 4), "09:30:05")
 expect(text("sbStatusBar", 5), "User  VARNIK(00)")
 expect(sql "Select Count(*) From T_User", {{1}})
+expect(sql "\n  Select Count(*) From MenuList", {{22}})
 
 scenario "The clock and the title move with the timers"
 now "2026-11-22 09:30:06"

@@ -4,6 +4,11 @@
 #include "data/Schema.h"
 #include "tests/support/TemporaryShop.h"
 
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
 #include <fstream>
 
 namespace varnik {
@@ -133,12 +138,48 @@ TEST(Bootstrap, AFolderThatTakesNoFileLeavesNothingBehind) {
     }
     EXPECT_TRUE(shop.desktop.boxes.empty());
 
-    // A start that was cut off leaves a file that the next one replaces.
+    // What a start that was cut off left is in nobody's way, and goes when it is old.
     EmptyShop cut;
-    std::filesystem::create_directories(cut.folder.Path() / "Data");
-    std::ofstream(cut.folder.Path() / "Data" / "Varnik.mdb.new") << "half";
+    const std::filesystem::path folder = cut.folder.Path() / "Data";
+    std::filesystem::create_directories(folder);
+    for (const char* name : {"Varnik.mdb.new", "Varnik.mdb.new7-wal", "Varnik.mdb.new8"})
+        std::ofstream(folder / name) << "half";
+    for (const char* name : {"Varnik.mdb.new", "Varnik.mdb.new7-wal"})
+        std::filesystem::last_write_time(folder / name, std::filesystem::file_time_type::clock::now() -
+                                                            std::chrono::hours(25));
     data::BootstrapDatabase(cut.services);
     EXPECT_EQ(cut.Rows("Select * From SecurityUser").size(), 43u);
+    EXPECT_FALSE(std::filesystem::exists(folder / "Varnik.mdb.new"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "Varnik.mdb.new7-wal"));
+    EXPECT_TRUE(std::filesystem::exists(folder / "Varnik.mdb.new8")); // another's, at work now
+}
+
+// Each writes as soon as it has started: nobody's database takes the place of another's.
+TEST(Bootstrap, WorkstationsThatStartAtOnceShareOneDatabase) {
+    EmptyShop shop;
+    constexpr int Stations = 4;
+    pid_t children[Stations] = {};
+    for (int station = 0; station < Stations; ++station) {
+        children[station] = fork();
+        if (children[station] != 0) continue;
+        try {
+            data::BootstrapDatabase(shop.services);
+            shop.Execute("Insert Into MenuList (MenuID) Values ('S" + std::to_string(station) + "')");
+            _exit(shop.desktop.boxes.empty() ? 0 : 1);
+        } catch (const std::exception& failure) {
+            std::fprintf(stderr, "%s\n", failure.what());
+            _exit(1);
+        }
+    }
+    for (const pid_t child : children) {
+        int status = -1;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    data::BootstrapDatabase(shop.services);
+    EXPECT_EQ(shop.Rows("Select * From MenuList").size(), 22u + Stations);
+    EXPECT_EQ(shop.Rows("Select * From SecurityUser").size(), 43u);
+    EXPECT_EQ(ado::CheckDatabase(data::DatabaseFile(shop.folder.Path())), "");
 }
 
 TEST(Schema, TheFileRefusesWhatItsColumnsAndKeysForbid) {

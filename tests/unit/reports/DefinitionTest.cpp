@@ -46,6 +46,7 @@ TEST(Definition, RefusesWhatItCannotReadWithFileAndLine) {
                   "in line 4: \"align\" of a column cannot be"},
              Case{"[[column]]\nformula = \"Qty * (Harga\"\n",
                   "in line 2: the formula \"Qty * (Harga\" cannot be read"},
+             Case{"[[column]]\nformula = \"" + std::string(100000, '(') + "\"\n", "it is nested too deep"},
              Case{"[[group]]\nby = \"A\"\nheader = \"{A\"\n",
                   "in line 3: the text \"{A\" lacks a closing brace"},
              Case{"[document]\ntotals = [\"Netto\"]\n",
