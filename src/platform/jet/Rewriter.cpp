@@ -11,6 +11,9 @@ namespace {
 constexpr std::string_view aggregates[] = {"max", "min", "sum", "count", "avg", "first", "last"};
 constexpr std::string_view joinWords[] = {"inner", "left", "right", "full", "cross", "join", "outer", ","};
 
+// Within each other. A text that breaks out of its quotes may bring any number of them.
+constexpr std::size_t MostBrackets = 200;
+
 class StatementWriter {
 public:
     StatementWriter(const Tokens& tokens, const Catalog& catalog)
@@ -23,7 +26,8 @@ public:
         Form form;
         if (all.Empty()) throw SyntaxError("The statement is empty.");
         for (std::size_t i = 0, depth = 0; i < all.end; ++i) {
-            if (Word(i, "(")) ++depth;
+            if (Word(i, "(") && ++depth > MostBrackets)
+                throw SyntaxError("The statement has too many brackets within each other.");
             if (Word(i, ")") && depth-- == 0)
                 throw SyntaxError("A bracket in the statement was never opened.");
         }

@@ -131,6 +131,11 @@ TEST(Translate, RefusesWhatIsNoStatement) {
           "Insert Into Bank Values (1,,2)",
           "UPDATE SUPPLIER SET  SaldoAkhir = SaldoAkhir -  1,000' Where KodeSup = ' S1'"})
         EXPECT_THROW(Read(text), SyntaxError) << text;
+    const auto nested = [](std::size_t depth) {
+        return "Select " + std::string(depth, '(') + "1" + std::string(depth, ')') + " From Bank";
+    };
+    Read(nested(200));
+    EXPECT_THROW(Read(nested(100000)), SyntaxError);
 }
 
 TEST(Translate, TextsOfOnePlaceHaveOneShape) {
