@@ -9,6 +9,9 @@ local screens = {
      columns = "KodeBrg,NamaBrg,Jasa,QAwal,QJual,QBeli,HPPAwal,HPPAkhir,HPPRata,Pecahan,PecahanBeli,HargaBeli," ..
         "PecahanJual,HargaJual,QCounter,QGudang,OnHand,OnOrder",
      values = ",False,0,0,0,0,0,0,1,1,0,1,0,0,0,0,0",
+     find = {criteria = {"Code", "Product Description"},
+        headings = {"Code", "Product Description", "Qty", "Unit"},
+        value = "othe", activationTakes = true},
      print = {"persediaan.rpt", "Report of product and service"}},
     {key = "F02", screen = "fCustomer", source = "Customer", codeColumn = "KodeCus", nameColumn = "NamaCus",
      proposed = {"0000000001", "0000000002"}, existing = "Item with this code is found ...",
@@ -18,7 +21,10 @@ local screens = {
      duplicate = "", missing = "Item with this code is not found ...",
      emptyName = "Enter  name of customer, please ...\"", nameReturns = true,
      columns = "KodeCus,NamaCus,nDis,nwDis,nJTP,SaldoAwal,SaldoAkhir", values = ",0,0,0,0,0",
-     print = {"Customer.rpt", "Customer"}},
+     find = {criteria = {"Code", "Name", "Address", "Final Balance"},
+        headings = {"Code", "Name", "Address", "Balance"},
+        value = "b2", activationTakes = true},
+     reportsSave = true, print = {"Customer.rpt", "Customer"}},
     {key = "F03", screen = "fSupplier", source = "Supplier", codeColumn = "KodeSup", nameColumn = "NamaSup",
      proposed = {"0000000001", "0000000002"},
      editNotFound = "Item with this code is not found ...", deleteNotFound = "Unable to find record ...\"",
@@ -26,6 +32,9 @@ local screens = {
      guard = {"SaldoAkhir", "The balance is not zero. This item can not be deleted ...", negativeRefused = false},
      duplicate = "", missing = "", emptyName = "Supplier Name should not be empty ...", nameReturns = true,
      columns = "KodeSup,NamaSup,nDis,nwDis,nJTP,SaldoAwal,SaldoAkhir", values = ",0,0,0,0,0",
+     find = {criteria = {"Code", "Name"},
+        headings = {"Code", "Supplier name", "Address", "Final Balance"},
+        value = "9bogor", activationTakes = false, prepare = "Update Supplier Set Alamat_1 = 'Jl. Raya', Alamat_2 = '', Alamat_3 = '9', Kota = 'Bogor'"},
      print = {"Supplier.rpt", "List Of Supplier"}},
     {key = "F04", screen = "fBank", source = "Bank", code = "txtRekID", name = "TxtNamaBank",
      codeColumn = "RekID", nameColumn = "NamaBank", proposed = {"000", "001"}, keptName = true,
@@ -35,6 +44,9 @@ local screens = {
      duplicate = "Item with this already exist ...", missing = "Unable to find record ...\r\nOr Others. ",
      emptyName = "This account should not be empty ...", nameReturns = true,
      columns = "RekID,NamaBank,SaldoAwal,SaldoAkhir,DefaultKas", values = ",0,0,False",
+     find = {criteria = {"Code"},
+        headings = {"RekId", "NamaBank", "NoRek", "SaldoAkhir"},
+        value = "2", activationTakes = false},
      print = {"bank.rpt", "Report Of Cash And Bank"}},
     {key = "F08", screen = "fAccJenisProduk", enterSaves = true, source = "JenisProduk", list = true,
      codeColumn = "KodeJenisProduk", nameColumn = "JenisProduk", proposed = {"", ""}, firstCode = "ATK",
@@ -62,7 +74,7 @@ local screens = {
      confirm = "Item with this code is not found ?", duplicate = "",
      missing = "Item with this code is not found ...",
      emptyName = "Enter  cost description, please ...", nameReturns = false,
-     columns = "KodeBiaya,Diskripsi,KodeJenisBiaya", values = ",'B2'", print = {"DetailBiaya.rpt", "Cost Account"}},
+     columns = "KodeBiaya,Diskripsi,KodeJenisBiaya", values = ",'B2'", reportsSave = true, print = {"DetailBiaya.rpt", "Cost Account"}},
 }
 
 local buttonsWhileEditing = {
@@ -212,11 +224,49 @@ local function run(s)
     if s.list then expect({rows "grdCari"}, {1}) end
     idle()
 
-    if s.print then
-        scenario(s.screen .. ": print")
-        click "bttnPrint"
-        expect({report().file, report().title}, s.print)
+    scenario(s.screen .. ": find")
+    if s.find then
+        if s.find.prepare then sql(s.find.prepare) end
+        local function search(value)
+            enter("txtValue", value)
+            click "cmdExecute"
+            return rows "grdCari"
+        end
+        go "Q9"
+        click "bttnFind"
+        expect({visible "frmCari", items "txtKreteria", enabled "bttnAdd"}, {true, s.find.criteria, true})
+        expect({cell("grdCari", 0, 0), cell("grdCari", 0, 1), cell("grdCari", 0, 2), cell("grdCari", 0, 3)}, s.find.headings)
+        expect({search "it's", search "nowhere", search(s.find.value)}, {0, 0, 1})
+        expect(cell("grdCari", 1, 0), otherCode)
+        doubleclick("grdCari", 1)
+        expect(visible "frmCari", not s.find.activationTakes)
+        if not s.find.activationTakes then click "cmdTutup" end
+        expect({visible "frmCari", text(code), text(name)}, {false, otherCode, "OTHER"})
+    else
+        go(otherCode)
+        click "bttnFind"
+        expect({text(code), text(name)}, {otherCode, "OTHER"})
     end
+    idle()
+
+    scenario(s.screen .. ": a name or a code too long for its column is not stored")
+    for _, case in ipairs {{"L1", ("x"):rep(120)}, {("L"):rep(40), "LONG"}} do
+        click "bttnAdd"
+        enter(code, case[1])
+        put(name, case[2])
+        if s.fill then s.fill() end
+        click "bttnOK"
+        local told = messages()
+        expect(#told, s.reportsSave and 1 or 0)
+        if s.reportsSave then expect(told[1].text:find("long", 1, true) ~= nil, true) end
+        idle()
+        expect(#sql("Select * From " .. s.source), 1)
+    end
+
+    scenario(s.screen .. ": print")
+    click "bttnPrint"
+    expect({report().file, report().title, report().rows, report().pages}, {s.print[1], s.print[2], 1, 1})
+    expect(report():text():find("OTHER", 1, true) ~= nil, true)
     click "bttnClose"
     expect(current(), "frmMainCode")
 end
