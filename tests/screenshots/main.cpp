@@ -51,6 +51,7 @@ public:
         }
         Product();
         User();
+        Masters();
         Invoice();
         Receipt();
         Receipts();
@@ -80,6 +81,32 @@ private:
         Click("fuser", "bttnEdit");
         Both("fuser", "edit");
         Click("fuser", "bttnCancel");
+    }
+
+    // Each with a record, the ones with a search with what it finds, and the list on paper.
+    void Masters() {
+        const struct {
+            const char *key, *screen, *box, *code;
+            bool searches;
+        } masters[] = {{"F02", "fCustomer", "txtKode", "0000000002", true},
+                       {"F03", "fSupplier", "txtKode", "0000000001", true},
+                       {"F04", "fBank", "txtRekID", "2", true},
+                       {"F08", "fAccJenisProduk", "txtKode", "TEA", false},
+                       {"F09", "frmJenisCustomer", "txtKode", "002", false},
+                       {"F06", "fJenisBiaya", "txtKode", "002", false},
+                       {"F07", "fBiaya", "txtKode", "0000000002", false}};
+        for (const auto& master : masters) {
+            if (!Open(master.key, master.screen)) continue;
+            Keys(master.screen, master.box, master.code);
+            Press(master.screen, Qt::Key_Return);
+            Both(master.screen, "record");
+            Click(master.screen, "bttnPrint");
+            Preview((std::string(master.screen) + "-print").c_str());
+            if (!master.searches) continue;
+            Click(master.screen, "bttnFind");
+            Click(master.screen, "cmdExecute");
+            Both(master.screen, "search");
+        }
     }
 
     void Invoice() {
