@@ -151,8 +151,9 @@ void Bayar::PostBayar() {
                 "','" + customer + "','" + AccountCode() + "','" + accountName_ + "','" + customer +
                 "','0'," + SqlNumber(amount) + ",'" + words + "'," + date + "," + date + "," + date +
                 ",False,False)");
-            posted_ = true;
         });
+        // From here on something is written, also when the voucher itself was passed over: never twice.
+        posted_ = true;
         const auto raise = [&](ado::Recordset& rows, const std::string& criterion, const char* column,
                                double by) {
             bool found = false;

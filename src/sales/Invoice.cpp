@@ -293,7 +293,11 @@ void Invoice::ShowCustomer(ado::Recordset& customer) {
 void Invoice::NameLeft() {
     if (Browsing() || GridCari.Visible() || !Trim(TxtKodeCus.Text()).empty()) return;
     const std::string name = Trim(TxtNamaCus.Text());
-    if (name.empty()) return;
+    // A blank name too asks who it is, when the person goes on by the keyboard.
+    if (name.empty()) {
+        if (MovingOn()) ListCustomers();
+        return;
+    }
     ado::Recordset customer;
     Found(customer, "Select * from Customer Where NamaCus='" + name + "'");
     if (customer.IsOpen() && customer.RecordCount() == 1) {

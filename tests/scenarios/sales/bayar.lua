@@ -117,3 +117,18 @@ expect(differences(before, books()), {
     "BKM +1", "Bank 2.SaldoAkhir: 0 -> 55000", "Customer 1.SaldoAkhir: 110000 -> 55000",
     "Invoice 3.Bayar: 0 -> 55000", "Invoice 3.Saldo: 55000 -> 0", "InvoiceBayar +1"})
 click "bttnClose"
+
+scenario "A voucher that was passed over is not posted a second time"
+number = sale("0000000001", {{"0000000001", "1"}})
+before = books()
+click "bttnBayar"
+enter("TxtNamaPenerima", "Tini's")
+answer "ignore"
+click "bttnSave"
+expect(#messages(), 1)
+local after = books()
+expect(differences(before, after), {
+    "Bank 1.SaldoAkhir: 165000 -> 220000", "Customer 1.SaldoAkhir: 110000 -> 55000",
+    "Invoice 4.Bayar: 0 -> 55000", "Invoice 4.Saldo: 55000 -> 0", "InvoiceBayar +1"})
+expect(enabled "bttnSave", false)
+click "bttnClose"

@@ -114,7 +114,16 @@ click "bttnNew"
 enter("TxtNamaCus", "Nobody")
 expect(visible "GridCari", false)
 expect(text "TxtKodeCus", "")
+-- No name at all lists everybody, for who goes on by the keyboard; who clicks elsewhere is left alone.
+clear "TxtNamaCus"
+focus "TxtNamaCus"
+keys "{Enter}"
+expect({focused(), rows "GridCari"}, {"GridCari", value "Select Count(*) From Customer"})
+keys "{Esc}"
+expect({visible "GridCari", focused()}, {false, "TxtKodeCus"})
+focus "TxtNamaCus"
 click "bttnCancel"
+expect(visible "GridCari", false)
 
 scenario "Rights are tested in the button, silently"
 sql "UPDATE T_USER SET TAMBAH = False, HAPUS = False"
