@@ -35,13 +35,15 @@ std::int64_t ToWhole(double number, std::int64_t least, std::int64_t most, const
     return static_cast<std::int64_t>(rounded);
 }
 
-// A fraction of four bytes as the shortest decimal that stands for it: 0.1 stays 0.1, so that a column's
-// values show as they were entered, and an amount less itself is nothing when its twin column is wider. Whole
-// numbers stay what the four bytes hold.
+// A fraction of four bytes without its binary tail: 0.1 stays 0.1, so that a column's values show as they
+// were entered, and an amount less itself is nothing when its twin column is wider. What the four bytes hold
+// exactly in a few digits, as whole numbers and quarters, stays.
 double WithoutTail(float narrow) {
     double number = static_cast<double>(narrow);
     if (std::nearbyint(number) == number) return number;
     char digits[40];
+    std::snprintf(digits, sizeof digits, "%.10g", number);
+    if (std::strtod(digits, nullptr) == number) return number;
     const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, narrow);
     std::from_chars(digits, end.ptr, number);
     return number;
