@@ -103,8 +103,7 @@ public:
 
     std::shared_ptr<const jet::Form> FormOf(const jet::Tokens& tokens);
     std::shared_ptr<Compiled> Compile(const std::string& sql);
-    // The statement that adds a row with all columns of the table, kept ready: joining its text took longer
-    // than finding it.
+    // The statement that adds a row, with all columns of the table; one for each table, kept ready.
     std::shared_ptr<Compiled> CompileInsert(const jet::Table& table);
     // Runs a writing statement; the rows it changed.
     long Write(Running& running);
