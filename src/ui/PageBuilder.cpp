@@ -91,6 +91,8 @@ void PageBuilder::Dress(Binding& binding, const Node& node) {
     switch (control.GetKind()) {
     case Kind::Label:
         if (node.width > 0) widget.setMinimumWidth(node.width * unit);
+        if (auto* label = qobject_cast<QLabel*>(&widget); label && node.right)
+            label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         break;
     case Kind::Grid:
     case Kind::ListGrid:

@@ -53,8 +53,9 @@ public:
         User();
         Masters();
         Invoice();
-        Receipt();
         Receipts();
+        Receipt();
+        PostedReceipts();
         Return();
     }
 
@@ -153,6 +154,7 @@ private:
         Click("Bayar", "bttnClose");
     }
 
+    // While the invoice is still owed.
     void Receipts() {
         if (!Open("T02", "BayarInvoice")) return;
         Click("BayarInvoice", "bttnNew");
@@ -161,18 +163,18 @@ private:
         Keys("BayarInvoice", "TxtNamaBank", "Bank Nusa");
         Keys("BayarInvoice", "TxtNoCek", "CQ-0091");
         Keys("BayarInvoice", "TxtPemilik", "Warung Bu Tini");
-        Keys("BayarInvoice", "TxtNoInvoice", "000000000200");
-        Press("BayarInvoice", Qt::Key_Return);
-        Click("BayarInvoice", "bttnAddLine");
         Keys("BayarInvoice", "TxtNoInvoice", "000000000100");
         Press("BayarInvoice", Qt::Key_Return);
+        Click("BayarInvoice", "bttnAddLine");
         Both("BayarInvoice", "entry");
-        Press("BayarInvoice", Qt::Key_F2);
         Click("BayarInvoice", "Command1");
         Click("BayarInvoice", "cmdExecute");
         Both("BayarInvoice", "invoices");
         Click("BayarInvoice", "cmdTutup");
         Click("BayarInvoice", "bttnCancel");
+    }
+
+    void PostedReceipts() {
         Click("BayarInvoice", "bttnFind");
         Click("BayarInvoice", "bttnExecute2");
         Both("BayarInvoice", "search");

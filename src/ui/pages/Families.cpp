@@ -107,7 +107,7 @@ Page VoucherPage(std::string screen, VoucherParts parts) {
             Family::Voucher,
             Column({DocumentTools(std::move(parts.furtherButtons)), std::move(parts.head),
                     std::move(parts.entry), Table("OrderGrid", 8).Label("Lines"),
-                    Row({Spring(), Heading("Total"), Field("lblJumBAYAR", 18).Title()})}),
+                    Row({Spring(), Heading("Total"), Field("lblJumBAYAR", 16).Title().Right()})}),
             {SearchPanelOver(), SecondSearchOver()}};
 }
 

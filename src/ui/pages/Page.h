@@ -43,6 +43,7 @@ struct Node {
     bool quiet = false;    // a caption in quiet colour
     bool padded = false;   // away from the window's edge
     bool centred = false;
+    bool right = false; // a caption that is an amount
     bool above = false; // the caption over the field instead of before it
 
     Node Label(std::string text) && { return label = std::move(text), std::move(*this); }
@@ -56,6 +57,7 @@ struct Node {
     Node Quiet() && { return quiet = true, std::move(*this); }
     Node Padded() && { return padded = true, std::move(*this); }
     Node Bare() && { return bare = true, std::move(*this); }
+    Node Right() && { return right = true, std::move(*this); }
     Node Centred() && { return centred = true, std::move(*this); }
     Node Above() && { return above = true, std::move(*this); }
 };

@@ -40,12 +40,12 @@ Page BayarInvoicePage() {
                                     {Field("txtTglJurnal", 15)},
                                     {Field("TxtCaraBayar", 15)},
                                     {AccountOfReceipt()},
-                                    {Field("TxtNamaPenerima", 40)},
-                                    {Field("TxtMemo", 40)}}))
+                                    {Field("TxtNamaPenerima", 60)},
+                                    {Field("TxtMemo", 60)}}))
                          .Share(1),
-                     Card("Cheque", Form({{Field("TxtNamaBank", 24)},
-                                          {Field("TxtNoCek", 24)},
-                                          {Field("TxtPemilik", 24)},
+                     Card("Cheque", Form({{Field("TxtNamaBank", 36)},
+                                          {Field("TxtNoCek", 36)},
+                                          {Field("TxtPemilik", 36)},
                                           {Field("TxtTglJTP", 15)}}))});
     Node entry = Card("", Row({Field("TxtNoInvoice", 13).Above(), Column({Heading(" "), Button("Command1")}),
                                Field("TxtJumlah", 13).Above(), Field("TxtKodeCus", 12).Above(),
