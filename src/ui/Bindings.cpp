@@ -31,7 +31,7 @@ public:
     void Refresh() override {
         // An ellipsis says "look up", and so does the icon.
         button_->setText(control_.Caption() == "..." ? QString() : ToQt(control_.Caption()).trimmed());
-        const QString icon = IconOfControl(control_.Name());
+        const QString icon = IconOfControl(control_);
         const bool primary = button_->property("primary").toBool();
         if (icon.isEmpty() || (icon == icon_ && primary == primary_)) return;
         icon_ = icon;

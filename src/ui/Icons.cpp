@@ -1,5 +1,7 @@
 #include "ui/Icons.h"
 
+#include "platform/forms/Screen.h"
+
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>
@@ -64,6 +66,8 @@ constexpr NamedIcon ControlIcons[] = {
     {"bttnfind", "find"},
     {"bttnsearch", "find"},
     {"command1", "find"},
+    {"company.command1", "save"},
+    {"company.command2", "exit"},
     {"cmdexecute", "find"},
     {"bttnexecute2", "find"},
     {"bttnprint", "print"},
@@ -103,12 +107,13 @@ QIcon DrawnIcon(const QString& name, const QColor& colour, const QColor& disable
     return QIcon(new LineIconEngine(file.readAll(), colour, disabled));
 }
 
-QString IconOfControl(const std::string& controlName) {
-    std::string name = Lower(controlName);
+QString IconOfControl(const forms::Control& control) {
+    std::string name = Lower(control.Name());
     name = name.substr(0, name.find('(')); // one of several of a name
-    for (const NamedIcon& known : ControlIcons)
-        if (known.control == name)
-            return QString::fromLatin1(known.icon.data(), qsizetype(known.icon.size()));
+    for (const std::string& asked : {Lower(control.Owner().Name()) + "." + name, name})
+        for (const NamedIcon& known : ControlIcons)
+            if (known.control == asked)
+                return QString::fromLatin1(known.icon.data(), qsizetype(known.icon.size()));
     return {};
 }
 

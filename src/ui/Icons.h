@@ -2,6 +2,8 @@
 // The drawn icons. A button's icon follows from its name, so that the same action looks the same on every
 // screen.
 
+#include "platform/forms/Control.h"
+
 #include <QColor>
 #include <QIcon>
 #include <QString>
@@ -13,8 +15,9 @@ namespace varnik::ui {
 // that when one is given, while its widget is disabled.
 QIcon DrawnIcon(const QString& name, const QColor& colour, const QColor& disabled = {});
 
-// The icon's name for a control ("bttnAdd" -> "add", "mnuFileExit" -> "exit"), "" for none.
-QString IconOfControl(const std::string& controlName);
+// The icon's name for a control ("bttnAdd" -> "add", "mnuFileExit" -> "exit"), "" for none. The few names
+// that mean another action on one screen are known with that screen's name.
+QString IconOfControl(const forms::Control& control);
 // For a row of the menu tree, by its key; branches are folders.
 QString IconOfMenuKey(const std::string& key);
 // The picture behind an image control: a resource path.

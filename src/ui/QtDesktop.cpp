@@ -144,7 +144,7 @@ void QtDesktop::PopUp(forms::Menu& menu, forms::Control& below) {
         }
         QAction* action = list->addAction(ToQt(item->Caption()));
         action->setObjectName(ToQt(item->Name()));
-        const QString icon = IconOfControl(item->Name());
+        const QString icon = IconOfControl(*item);
         if (!icon.isEmpty()) action->setIcon(DrawnIcon(icon, CurrentColours().accent));
         action->setEnabled(item->Enabled());
         action->setCheckable(item->Checkable());

@@ -69,6 +69,7 @@ std::vector<Page> MasterPages() {
                        {Field("txtNamaPemilik").Span(2)}})),
         Row({Card("Balance", Form({{Field("txtSaldoAwal", 16)}, {Field("txtSaldoAkhir", 16)}})),
              Card("Use", Form({{Field("txtket")}, {Field("Check1")}})).Share(1)}),
+        Spring(),
     });
     return {MasterPage("fProduk", std::move(product)),
             MasterPage("fCustomer", std::move(customer)),
