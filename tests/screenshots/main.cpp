@@ -57,6 +57,9 @@ public:
         Receipt();
         PostedReceipts();
         Return();
+        Purchase();
+        PurchaseReturn();
+        Payment();
     }
 
 private:
@@ -193,6 +196,49 @@ private:
         Click("InvoiceRetur", "bttnFind");
         Click("InvoiceRetur", "bttnExecute2");
         Both("InvoiceRetur", "search");
+    }
+
+    void Purchase() {
+        if (!Open("T04", "Faktur")) return;
+        Click("Faktur", "bttnNew");
+        Press("Faktur", Qt::Key_Return);
+        Keys("Faktur", "TxtKodeSup", "0000000001");
+        Press("Faktur", Qt::Key_Return); // goes to the lines
+        for (const char* line : {"0000000001", "0000000002", "0000000003"}) {
+            Press("Faktur", Qt::Key_Return); // opens the next
+            Keys("Faktur", "txtKodeBrg", line);
+            Press("Faktur", Qt::Key_Return);
+            Keys("Faktur", "txtQty", "24");
+            if (line[9] == '3') break; // the third stays on the entry line
+            Click("Faktur", "bttnAddLine");
+        }
+        Both("Faktur", "entry");
+        Click("Faktur", "bttnAddLine");
+        Click("Faktur", "bttnSave");
+        Both("Faktur", "saved");
+        Click("Faktur", "bttnPrint");
+        Preview("Faktur-print");
+    }
+
+    void PurchaseReturn() {
+        if (!Open("T06", "FakturRetur")) return;
+        Click("FakturRetur", "bttnNew");
+        Keys("FakturRetur", "txtNoPO", "000000000100");
+        Press("FakturRetur", Qt::Key_Return);
+        Both("FakturRetur", "loaded");
+        Click("FakturRetur", "bttnCancel");
+    }
+
+    void Payment() {
+        if (!Open("T05", "BayarFaktur")) return;
+        Click("BayarFaktur", "bttnNew");
+        Keys("BayarFaktur", "TxtCaraBayar", "CHEQUE");
+        Keys("BayarFaktur", "TxtRekening", "2");
+        Keys("BayarFaktur", "TxtNoFaktur", "000000000100");
+        Press("BayarFaktur", Qt::Key_Return);
+        Click("BayarFaktur", "bttnAddLine");
+        Both("BayarFaktur", "entry");
+        Click("BayarFaktur", "bttnCancel");
     }
 
     ui::ScreenWindow* Window(const std::string& screen) { return desktop_.WindowOf(screen); }
