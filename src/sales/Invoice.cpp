@@ -2,27 +2,13 @@
 
 #include "data/Numbering.h"
 #include "sales/Bayar.h"
+#include "sales/SalesLines.h"
 
 namespace varnik {
 
 using document::EntryMode;
 
 namespace {
-
-// Wanted: the sixth heading of amounts says percent and its column holds an amount.
-document::LineLayout Lines() {
-    using forms::Align;
-    return {{{"CODE", Align::Left, 12},
-             {"DESCRIPTION", Align::Left, 36},
-             {"QTY", Align::Right, 8},
-             {"UNIT", Align::Left, 8},
-             {"PRICE", Align::Right, 12},
-             {"BRUTO", Align::Right, 14},
-             {"DISC (%)", Align::Right, 12},
-             {"NETTO", Align::Right, 14},
-             {"QTY/UNIT", Align::Right, 9}},
-            {"", "", "", "0", "", "0", "0", "0", "0"}};
-}
 
 constexpr document::SearchChoice Choices[] = {
     {"Invoice Number", " Where NoInvoice Like '%", "%' Order By KodeCus,TglInvoice,NoInvoice"},
@@ -65,7 +51,7 @@ Invoice::Invoice(Services& services)
       TxtAlamat3(*this, "TxtAlamat3"),
       line_(*this),
       bttnSearch(*this, "bttnSearch", "..."),
-      OrderGrid(*this, Lines()),
+      OrderGrid(*this, SalesLines("QTY/UNIT")),
       boxes_(*this),
       TxtSaldo(*this, "TxtSaldo", "Balance :"),
       bttnBayar(*this, "bttnBayar", "&Receipt"),

@@ -1,26 +1,13 @@
 #include "sales/InvoiceRetur.h"
 
 #include "data/Numbering.h"
+#include "sales/SalesLines.h"
 
 namespace varnik {
 
 using document::EntryMode;
 
 namespace {
-
-document::LineLayout Lines() {
-    using forms::Align;
-    return {{{"CODE", Align::Left, 12},
-             {"DESCRIPTION", Align::Left, 36},
-             {"QTY", Align::Right, 8},
-             {"UNIT", Align::Left, 8},
-             {"PRICE", Align::Right, 12},
-             {"BRUTO", Align::Right, 14},
-             {"DISC (%)", Align::Right, 12},
-             {"NETTO", Align::Right, 14},
-             {"QTY @", Align::Right, 9}},
-            {"", "", "", "0", "", "0", "0", "0", "0"}};
-}
 
 constexpr document::SearchChoice Invoices[] = {
     {"Invoice No", " Where Invoice.NoInvoice Like '%",
@@ -103,7 +90,7 @@ InvoiceRetur::InvoiceRetur(Services& services)
       Combo1(*this, "Combo1", "Reason"),
       bttnSearch(*this, "bttnSearch", "..."),
       line_(*this, {.discount = "Disc (%)"}),
-      OrderGrid(*this, Lines()),
+      OrderGrid(*this, SalesLines("QTY @")),
       boxes_(*this),
       frmCari(*this, InvoiceSearch()),
       FrmCari2(*this, ReturnSearch(), document::SecondSearch) {

@@ -59,6 +59,16 @@ public:
         return text;
     }
     void Execute(const std::string& sql) { Connect().Execute(sql); }
+    // Every such write ("INSERT", "Invoice") fails as on a locked shelf, until Allow.
+    void Refuse(const std::string& doing, const std::string& table) {
+        ado::Connection connection = Connect();
+        ado::ExecuteNative(connection, "CREATE TRIGGER Locked BEFORE " + doing + " ON " + table +
+                                           " BEGIN SELECT RAISE(ABORT, 'the shelf is locked'); END");
+    }
+    void Allow() {
+        ado::Connection connection = Connect();
+        ado::ExecuteNative(connection, "DROP TRIGGER IF EXISTS Locked");
+    }
 
     TemporaryFolder folder;
     Regional regional;

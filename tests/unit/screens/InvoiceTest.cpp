@@ -74,16 +74,6 @@ protected:
         Click("bttnSave");
     }
 
-    // What a person sees when the shelf is locked, until `meanwhile` unlocks it.
-    void Refuse(const std::string& doing, const std::string& table) {
-        ado::Connection connection = shop.Connect();
-        ado::ExecuteNative(connection, "CREATE TRIGGER Locked BEFORE " + doing + " ON " + table +
-                                           " BEGIN SELECT RAISE(ABORT, 'the shelf is locked'); END");
-    }
-    void Allow() {
-        ado::Connection connection = shop.Connect();
-        ado::ExecuteNative(connection, "DROP TRIGGER IF EXISTS Locked");
-    }
     std::string Books() {
         std::string books;
         for (const char* statement :
@@ -124,11 +114,11 @@ TEST_F(InvoiceFaults, RetryAfterTheFaultIsLiftedEndsInTheSameBooksWhereverItStru
         shop.Execute("Delete From Persediaan Where NoJurnal <> '11'");
         shop.Execute("Update Produk Set HargaJual = 1000");
     };
-    shop.desktop.meanwhile = [this] { Allow(); };
+    shop.desktop.meanwhile = [this] { shop.Allow(); };
     for (const Fault& fault : PostingFaults) {
         SCOPED_TRACE(std::string("posting: ") + fault.doing + " " + fault.table);
         restart();
-        Refuse(fault.doing, fault.table);
+        shop.Refuse(fault.doing, fault.table);
         shop.desktop.boxes.clear();
         shop.desktop.answers = {Answer::Retry};
         Sell();
@@ -142,7 +132,7 @@ TEST_F(InvoiceFaults, RetryAfterTheFaultIsLiftedEndsInTheSameBooksWhereverItStru
         SCOPED_TRACE(std::string("deleting: ") + fault.doing + " " + fault.table);
         restart();
         Sell();
-        Refuse(fault.doing, fault.table);
+        shop.Refuse(fault.doing, fault.table);
         shop.desktop.answers = {Answer::Retry};
         Delete(First);
         EXPECT_TRUE(shop.desktop.answers.empty());
@@ -151,7 +141,7 @@ TEST_F(InvoiceFaults, RetryAfterTheFaultIsLiftedEndsInTheSameBooksWhereverItStru
 }
 
 TEST_F(InvoiceFaults, AbortKeepsWhatWasWrittenBeforeAndNothingAfter) {
-    Refuse("UPDATE", "Produk");
+    shop.Refuse("UPDATE", "Produk");
     shop.desktop.answers = {Answer::Abort};
     Sell();
     EXPECT_EQ(shop.Table("Select NoInvoice, Total From Invoice"), "000000000100|26000");
@@ -160,13 +150,13 @@ TEST_F(InvoiceFaults, AbortKeepsWhatWasWrittenBeforeAndNothingAfter) {
     EXPECT_EQ(shop.Table("Select OnHand From Produk Where KodeBrg = 'B1'"), "40");
     EXPECT_EQ(shop.Table("Select NoRef From Persediaan Where NoJurnal = '31'"), "");
     // The screen is ready for the next document all the same.
-    Allow();
+    shop.Allow();
     Click("bttnNew");
     EXPECT_EQ(Control<forms::TextBox>("TxtNoInvoice").Text(), "000000000200");
 }
 
 TEST_F(InvoiceFaults, IgnorePassesOverTheOneStatement) {
-    Refuse("UPDATE", "Customer");
+    shop.Refuse("UPDATE", "Customer");
     shop.desktop.answers = {Answer::Ignore};
     Sell();
     EXPECT_EQ(shop.Table("Select SaldoAkhir From Customer"), "0");

@@ -80,15 +80,6 @@ public:
         Click("bttnSave");
     }
 
-    void Refuse(const std::string& doing, const std::string& table) {
-        ado::Connection connection = shop.Connect();
-        ado::ExecuteNative(connection, "CREATE TRIGGER Locked BEFORE " + doing + " ON " + table +
-                                           " BEGIN SELECT RAISE(ABORT, 'the shelf is locked'); END");
-    }
-    void Allow() {
-        ado::Connection connection = shop.Connect();
-        ado::ExecuteNative(connection, "DROP TRIGGER IF EXISTS Locked");
-    }
     std::string Books() {
         std::string books;
         for (const char* statement :
@@ -152,12 +143,12 @@ public:
 TEST_P(ReceiptRetry, EndsInTheSameBooks) {
     Prepare();
     const std::string before = Books();
-    Refuse(GetParam().fault.doing, GetParam().fault.table);
+    shop.Refuse(GetParam().fault.doing, GetParam().fault.table);
     int asked = 0;
     shop.desktop.meanwhile = [&] {
         if (shop.desktop.boxes.back().buttons != Buttons::AbortRetryIgnore) return;
         ++asked;
-        Allow();
+        shop.Allow();
     };
     shop.desktop.answers = {Answer::Retry};
     Post();
@@ -202,7 +193,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ReceiptFaults, AbortKeepsWhatWasWrittenBeforeAndNothingAfter) {
     Open(std::make_unique<BayarInvoice>(shop.services));
-    Refuse("UPDATE", "Customer");
+    shop.Refuse("UPDATE", "Customer");
     shop.desktop.answers = {Answer::Abort};
     Receive();
     EXPECT_EQ(shop.Table("Select Jumlah From BKM"), "500");
@@ -213,7 +204,7 @@ TEST_F(ReceiptFaults, AbortKeepsWhatWasWrittenBeforeAndNothingAfter) {
 
 TEST_F(ReceiptFaults, IgnorePassesOverTheOneStatement) {
     Open(std::make_unique<InvoiceRetur>(shop.services));
-    Refuse("UPDATE", "Customer");
+    shop.Refuse("UPDATE", "Customer");
     shop.desktop.answers = {Answer::Ignore};
     TakeBack();
     EXPECT_EQ(shop.Table("Select SaldoAkhir From Customer"), "500");
