@@ -75,6 +75,20 @@ Rows RunStatement(const Definition& definition, ado::Connection& connection, Fac
     return Read(facts.statement, connection);
 }
 
+// The head of the sheet: the title formulas of the request, or the company as it is for one that sets none.
+std::array<std::string, 4> CompanyTexts(const ReportRequest& request, const Session& session) {
+    std::array<std::string, 4> texts;
+    bool set = false;
+    for (const auto& [name, text] : ReadFormulas(request))
+        for (std::size_t line = 0; line < texts.size(); ++line)
+            if (EqualsNoCase(name, "Judul" + std::to_string(line + 1))) {
+                texts[line] = text;
+                set = true;
+            }
+    if (set) return texts;
+    return {session.CompanyName, session.CompanyLine1, session.CompanyLine2, session.CompanyLine3};
+}
+
 } // namespace
 
 std::unique_ptr<Report> OpenReport(const ReportRequest& request, Services& services) {
@@ -83,10 +97,7 @@ std::unique_ptr<Report> OpenReport(const ReportRequest& request, Services& servi
     const std::filesystem::path folder = ReportFolder(request.ReportFileName, facts.file);
     Definition definition = LoadDefinition(folder, facts.file);
     facts.file = definition.file;
-    const auto formulas = ReadFormulas(request);
-    for (std::size_t line = 0; line < facts.company.size(); ++line)
-        for (const auto& [name, text] : formulas)
-            if (EqualsNoCase(name, "Judul" + std::to_string(line + 1))) facts.company[line] = text;
+    facts.company = CompanyTexts(request, services.session);
     facts.parameters = ReadParameters(request);
     facts.now = services.desktop.Now();
     facts.regional = services.regional;

@@ -36,6 +36,7 @@ Template::Template(std::string_view text) {
             }
             place.words = TakePrefix(place.name, "words ");
             place.sum = TakePrefix(place.name, "sum ");
+            place.given = TakePrefix(place.name, "given ");
             if (place.name.empty()) fail("has braces without a name");
             piece.places.push_back(std::move(place));
         }
@@ -48,11 +49,13 @@ std::string Template::Fill(const std::function<std::string(const Place&)>& fill)
     std::string result;
     for (const Piece& piece : pieces_) {
         result += piece.text;
-        for (const Place& place : piece.places)
-            if (const std::string filled = fill(place); !filled.empty()) {
-                result += filled;
-                break;
-            }
+        for (const Place& place : piece.places) {
+            const std::string filled = fill(place);
+            const bool nothing = place.given && (Trim(filled) == "0" || Trim(filled) == "-");
+            if (filled.empty() || nothing) continue;
+            result += filled;
+            break;
+        }
     }
     return Trim(result);
 }

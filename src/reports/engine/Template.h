@@ -4,6 +4,7 @@
 //   {Name:#,##0}   a number with this mask instead of the usual one
 //   {sum Name}     the sum of a column over the rows meant (group or whole report)
 //   {words X}      the amount X, one of the above, in words
+//   {given Name}   a column in which "0" and "-" stand for nothing (the cheque number of a cash voucher)
 //   {A|B}          the first of them that is not empty
 // A place without a value comes out empty.
 
@@ -27,6 +28,7 @@ public:
         std::string mask;
         bool sum = false;
         bool words = false;
+        bool given = false;
     };
     // `fill` gives the text of one place.
     std::string Fill(const std::function<std::string(const Place&)>& fill) const;

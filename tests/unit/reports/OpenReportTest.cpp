@@ -16,7 +16,7 @@ class OpenedReport : public testing::Test {
 protected:
     OpenedReport() {
         std::filesystem::create_directories(shop.folder.Path() / "Report");
-        for (const char* file : {"Invoice.rpt", "persediaan.rpt"})
+        for (const char* file : {"BKM2.rpt", "Invoice.rpt", "persediaan.rpt"})
             std::filesystem::copy_file(std::filesystem::path("Report") / file,
                                        shop.folder.Path() / "Report" / file);
         for (const char* code : {"B1", "B2"})
@@ -109,6 +109,23 @@ TEST_F(OpenedReport, AMissingColumnIsEmptyAndTheFilterStays) {
                    shop.services);
     EXPECT_EQ(report->RowCount(), 1);
     EXPECT_THAT(report->About().statement, HasSubstr("Null AS [KodeAcc]"));
+}
+
+// A voucher's request sets no title formulas; paid in cash it has no cheque, whatever stands for none.
+TEST_F(OpenedReport, WithoutTitleFormulasTheCompanyStandsAsItIs) {
+    shop.session.CompanyName = "Toko Jum'at";
+    shop.session.CompanyLine3 = "Bandung";
+    ReportRequest request = Request("BKM2.rpt");
+    request.Formulas.clear();
+    for (const char* none : {"'0'", "'-'", "Null", "''"}) {
+        request.SQLQuery = "Select 'Ibu Sari' As Penyetor, " + std::string(none) + " As NoCek From Company";
+        const std::string text = Text(request);
+        EXPECT_THAT(text, testing::AllOf(HasSubstr("Toko Jum'at"), HasSubstr("Bandung"),
+                                         HasSubstr("Ibu Sari"), Not(HasSubstr("Cheque no."))))
+            << none;
+    }
+    request.SQLQuery = "Select 'C-70' As NoCek From Company";
+    EXPECT_THAT(Text(request), testing::ContainsRegex("Cheque no. +C-70"));
 }
 
 TEST_F(OpenedReport, SaysWhatIsWrong) {
