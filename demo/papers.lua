@@ -1,0 +1,63 @@
+-- What comes out of the printer on an evening in the demo's shop, as PDF and text in the folder that the
+-- argument names; then the balances, as they stand. Runs on the folder that shop.lua filled.
+
+local folder = arg[1]
+
+start()
+login("varnik", "kemiri")
+
+local function keep(name)
+    local paper = report()
+    paper:pdf(folder .. "/" .. name .. ".pdf")
+    local file = io.open(folder .. "/" .. name .. ".txt", "w")
+    file:write(paper:text())
+    file:close()
+    paper:close()
+end
+
+scenario "Lists"
+for _, list in ipairs {{"F01", "products"}, {"F02", "customers"}, {"F03", "suppliers"}, {"F04", "accounts"}} do
+    use "frmMainCode"
+    open(list[1])
+    click "bttnPrint"
+    keep(list[2])
+    click "bttnClose"
+end
+
+scenario "The last documents of each kind"
+local documents = {
+    {"T01", "TxtNoInvoice", "invoice", "Select NoInvoice From Invoice Order By NoInvoice"},
+    {"T02", "txtNoBukti", "receipt", "Select NoBKM From InvoiceBayar Order By NoBKM"},
+    {"T03", "TxtReturID", "sales-return", "Select ReturID From InvoiceRetur Order By ReturID"},
+    {"T04", "TxtNoFaktur", "purchase", "Select NoFaktur From Faktur Order By NoFaktur"},
+    {"T05", "txtNoBukti", "payment", "Select NoBKK From FakturBayar Order By NoBKK"},
+    {"T06", "TxtNoFaktur", "purchase-return", "Select NoFaktur From FakturRetur Order By NoFaktur"},
+}
+for _, document in ipairs(documents) do
+    local key, field, name, statement = table.unpack(document)
+    local numbers = sql(statement)
+    use "frmMainCode"
+    open(key)
+    enter(field, numbers[#numbers][1])
+    click "bttnPrint"
+    keep(name)
+    click "bttnClose"
+end
+
+local function show(title, rows)
+    print("\n" .. title)
+    for _, row in ipairs(rows) do
+        for column, cell in ipairs(row) do
+            local whole = math.type(cell) and string.format("%.0f", cell)
+            row[column] = whole and (" "):rep(13 - #whole) .. whole or string.format("%-24s", cell)
+        end
+        print("  " .. table.concat(row, "  "))
+    end
+end
+show("Accounts: opening and final balance", sql "Select NamaBank, SaldoAwal, SaldoAkhir From Bank Order By RekID")
+show("Customers: what they owe", sql "Select NamaCus, SaldoAkhir From Customer Where SaldoAkhir <> 0 Order By NamaCus")
+show("Suppliers: what we owe", sql "Select NamaSup, SaldoAkhir From Supplier Where SaldoAkhir <> 0 Order By NamaSup")
+show("Sales: amount and cost of goods",
+     sql "Select JenisProduk, Sum(Total) As Amount, Sum(THPP) As Cost From QryPenjualanDetail Group By JenisProduk")
+show("Stock at average cost", sql "Select JenisBrg, Sum(OnHand * HPPRata) As Value From Produk Group By JenisBrg")
+stop()
