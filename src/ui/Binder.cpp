@@ -1,6 +1,7 @@
 #include "ui/Binder.h"
 
 #include "platform/forms/Controls.h"
+#include "ui/DateKeys.h"
 #include "ui/QtText.h"
 
 #include <QApplication>
@@ -13,6 +14,22 @@
 namespace varnik::ui {
 
 using forms::Kind;
+
+namespace {
+
+// The key of the number pad, whichever of the two the keyboard's layout puts on it.
+bool IsDecimalKey(const QKeyEvent& event) {
+    return event.modifiers().testFlag(Qt::KeypadModifier) &&
+           (event.text() == QLatin1String(".") || event.text() == QLatin1String(","));
+}
+
+// A password is typed as it is, and in a date the key parts days from months.
+bool TakesDecimals(const Binding& binding) {
+    const auto* text = dynamic_cast<const forms::TextControl*>(&binding.Control());
+    return text && !text->Masked() && !IsDateField(*binding.Widget());
+}
+
+} // namespace
 
 Binder::Binder(forms::Screen& screen, QWidget* window, const Regional& regional)
     : screen_(screen), window_(window), regional_(regional) {
@@ -171,11 +188,10 @@ bool Binder::eventFilter(QObject* object, QEvent* event) {
         return OnPress(*binding, object, static_cast<QMouseEvent&>(*event));
     case QEvent::MouseButtonRelease:
         return std::exchange(swallowRelease_, false);
-    case QEvent::Wheel: // turning the wheel over a field that is not entered must not change it
-        if (binding->Control().GetKind() == Kind::ComboBox ||
-            binding->Control().GetKind() == Kind::DatePicker)
-            return screen_.Focused() != &binding->Control() || binding->Refuses(object);
-        return false;
+    case QEvent::Wheel: // never changes a value by accident: the arrows are there for it
+        event->ignore();
+        return binding->Control().GetKind() == Kind::ComboBox ||
+               binding->Control().GetKind() == Kind::DatePicker;
     case QEvent::FocusIn: {
         // Assistive tools move the toolkit's focus themselves.
         const Qt::FocusReason reason = static_cast<QFocusEvent&>(*event).reason();
@@ -222,23 +238,45 @@ bool Binder::PressKey(QKeyEvent& event) { return OnKey(nullptr, event); }
 
 bool Binder::OnKey(Binding* binding, QKeyEvent& event) {
     if (binding && binding->TakesKey(event)) return false;
-    const std::optional<forms::Key> key = ToKey(event);
+    if (binding && binding->Handles(event)) return true;
+    std::optional<forms::Key> key = ToKey(event);
     if (!key) return false;
+    const char32_t pressed = key->character;
+    if (binding && IsDecimalKey(event) && TakesDecimals(*binding))
+        key->character = static_cast<unsigned char>(regional_.decimal);
     const QPointer<Binder> alive(this);
     const bool taken = screen_.PressKey(*key);
     if (!alive || screen_.Closed()) return true;
     SyncFocus();
-    if (taken || !binding) return true;
+    if (taken) return true;
+    if (key->code == forms::KeyCode::Enter && key->ctrl && !key->alt) {
+        PressSave();
+        return true;
+    }
+    if (!binding) return true;
     if (event.matches(QKeySequence::Paste)) {
         Paste(*binding);
         return true;
     }
+    if (binding->HandlesLeft(*key)) return true;
     if (key->code != forms::KeyCode::Character || key->ctrl || key->alt) return false;
     const char32_t typed = screen_.FilterCharacter(key->character);
     if (!alive || screen_.Closed() || typed == 0) return true;
-    if (typed == key->character) return false;
+    if (typed == pressed) return false;
     binding->Insert(QString::fromUcs4(&typed, 1));
     return true;
+}
+
+// While the button reads "Save": the same button deletes at other times.
+void Binder::PressSave() {
+    for (forms::Control* control : screen_.Controls()) {
+        const bool save =
+            control->GetKind() == Kind::Button &&
+            PlainCaption(control->Caption()).compare(QLatin1String("Save"), Qt::CaseInsensitive) == 0;
+        if (!save || !control->IsUsable()) continue;
+        screen_.Click(*control);
+        return;
+    }
 }
 
 // What is pasted is filtered as if it were typed.

@@ -4,6 +4,7 @@
 // and clicking in the same order. No rule of the business stands here.
 //
 // The keyboard: every key is offered to the screen first; what it leaves is the field's own to edit with.
+// Ctrl+Enter presses Save, and the number pad's decimal key gives the machine's decimal separator.
 // The mouse: a press on a field moves the screen's focus, and only where the screen then has it does the
 // toolkit's focus go. A button never takes the focus by the toolkit; the screen's Click decides.
 
@@ -57,6 +58,7 @@ private:
     bool OnPress(Binding& binding, const QObject* pressed, QMouseEvent& event);
     bool OnKey(Binding* binding, QKeyEvent& event);
     void Paste(Binding& binding);
+    void PressSave();
 
     forms::Screen& screen_;
     QWidget* window_;

@@ -38,8 +38,12 @@ public:
     virtual void SelectAll() {} // the content, as a field is entered
     // A character that a handler changed, or text from the clipboard, at the cursor.
     virtual void Insert(const QString&) {}
-    // Keys that the kind keeps for itself before the screen sees them.
+    // Keys that the kind keeps for its widget before the screen sees them.
     virtual bool TakesKey(QKeyEvent&) { return false; }
+    // Deals with a key before the screen sees it, or with one that the screen has left; the widget sees
+    // neither.
+    virtual bool Handles(QKeyEvent&) { return false; }
+    virtual bool HandlesLeft(const forms::Key&) { return false; }
     // Whether the press is used up by entering the field, so that all of it stays selected.
     virtual bool EatsEnteringPress(const QObject* /*pressed*/) const { return false; }
     // Whether the widget would change by itself although the control is locked.

@@ -2,12 +2,10 @@
 
 #include "platform/forms/Controls.h"
 #include "ui/Binder.h"
-#include "ui/Icons.h"
+#include "ui/DateKeys.h"
 #include "ui/QtText.h"
-#include "ui/Style.h"
 
 #include <QAbstractItemView>
-#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -19,8 +17,6 @@
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QStyle>
-#include <QTextCharFormat>
-#include <QToolButton>
 
 namespace varnik::ui {
 
@@ -84,6 +80,18 @@ public:
     void SelectAll() override { edit_->selectAll(); }
     void Insert(const QString& text) override { edit_->insert(text); }
     bool EatsEnteringPress(const QObject*) const override { return true; }
+    // A date that is kept as a text, while it stands there as it was found: what is being typed may have a
+    // "-" of its own.
+    bool HandlesLeft(const forms::Key& key) override {
+        if (!IsDateField(*edit_) || box_.Locked() || edit_->selectedText() != edit_->text()) return false;
+        const Regional& regional = binder_.Settings();
+        const auto date = DateByKey(key, ParseDate(box_.Text(), regional));
+        if (!date) return false;
+        box_.Type(ShortDate(*date, regional));
+        Refresh();
+        SelectAll();
+        return true;
+    }
 
 private:
     forms::TextBox& box_;
@@ -194,71 +202,6 @@ private:
     bool refreshing_ = false;
 };
 
-void DressCalendar(QCalendarWidget& calendar) {
-    calendar.setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendar.setMinimumSize(360, 270);
-    QTextCharFormat weekend;
-    weekend.setForeground(CurrentColours().quietText);
-    calendar.setWeekdayTextFormat(Qt::Saturday, weekend);
-    calendar.setWeekdayTextFormat(Qt::Sunday, weekend);
-    const char* const turns[] = {"qt_calendar_prevmonth", "qt_calendar_nextmonth"};
-    const char* const icons[] = {"previous", "next"};
-    for (int i = 0; i < 2; ++i)
-        if (auto* button = calendar.findChild<QToolButton*>(QLatin1String(turns[i])))
-            button->setIcon(DrawnIcon(QLatin1String(icons[i]), CurrentColours().accent));
-}
-
-class DateBinding : public Binding {
-public:
-    DateBinding(Binder& binder, forms::DatePicker& picker, QDateEdit* edit)
-        : Binding(binder, picker, edit), picker_(picker), edit_(edit) {
-        edit->setCalendarPopup(true);
-        edit->setDisplayFormat(Format(binder.Settings()));
-        DressCalendar(*edit->calendarWidget());
-        edit->setDateRange(QDate(1900, 1, 1), QDate(2099, 12, 31));
-        QObject::connect(edit, &QDateEdit::dateChanged, edit, [this](const QDate& date) {
-            if (refreshing_) return;
-            picker_.Pick(FromQt(date, picker_.Date().second));
-            Refresh();
-        });
-    }
-    QList<QWidget*> EventSources() const override { return {edit_, edit_->findChild<QLineEdit*>()}; }
-    void Refresh() override {
-        const QScopedValueRollback<bool> quiet(refreshing_, true);
-        const QDate date = ToQt(picker_.Date());
-        if (edit_->date() != date) edit_->setDate(date);
-    }
-    void SelectAll() override { edit_->setSelectedSection(edit_->sectionAt(0)); }
-    bool TakesKey(QKeyEvent& event) override {
-        const bool opens = event.key() == Qt::Key_F4 ||
-                           (event.key() == Qt::Key_Down && event.modifiers().testFlag(Qt::AltModifier));
-        if (!opens) return false;
-        // The toolkit opens its calendar by the mouse alone.
-        const QPointF arrow(edit_->width() - 10, edit_->height() / 2.0);
-        QMouseEvent press(QEvent::MouseButtonPress, arrow, edit_->mapToGlobal(arrow), Qt::LeftButton,
-                          Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(edit_, &press);
-        return true;
-    }
-
-private:
-    static QString Format(const Regional& regional) {
-        const QString separator = QStringLiteral("'%1'").arg(ToQt(regional.dateSeparator));
-        const QString day = QStringLiteral("dd"), month = QStringLiteral("MM"), year = QStringLiteral("yyyy");
-        switch (regional.order) {
-        case DateOrder::DayMonthYear:
-            return day + separator + month + separator + year;
-        case DateOrder::YearMonthDay:
-            return year + separator + month + separator + day;
-        default:
-            return month + separator + day + separator + year;
-        }
-    }
-    forms::DatePicker& picker_;
-    QDateEdit* edit_;
-    bool refreshing_ = false;
-};
-
 // A check box or an option: the screen's Click turns it over, the widget then shows what came of it.
 template <typename ControlType, typename WidgetType>
 class TickBinding : public Binding {
@@ -294,8 +237,7 @@ std::unique_ptr<Binding> MakeFieldBinding(Binder& binder, forms::Control& contro
         return std::make_unique<ComboBinding>(binder, static_cast<forms::ComboBox&>(control),
                                               new QComboBox(parent));
     case forms::Kind::DatePicker:
-        return std::make_unique<DateBinding>(binder, static_cast<forms::DatePicker&>(control),
-                                             new QDateEdit(parent));
+        return MakeDateBinding(binder, static_cast<forms::DatePicker&>(control), new QDateEdit(parent));
     case forms::Kind::CheckBox:
         return std::make_unique<TickBinding<forms::CheckBox, QCheckBox>>(
             binder, static_cast<forms::CheckBox&>(control), new QCheckBox(parent));

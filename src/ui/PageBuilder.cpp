@@ -1,6 +1,7 @@
 #include "ui/PageBuilder.h"
 
 #include "platform/forms/Controls.h"
+#include "ui/DateKeys.h"
 #include "ui/QtText.h"
 #include "ui/Style.h"
 
@@ -65,6 +66,7 @@ void PageBuilder::Dress(Binding& binding, const Node& node) {
     }
     if (font != window_.font()) widget.setFont(font);
     if (node.quiet) widget.setProperty("quiet", true);
+    if (node.date) MarkDateField(widget);
     if (node.primary) widget.setProperty("primary", true);
 
     const int unit = widget.fontMetrics().averageCharWidth();

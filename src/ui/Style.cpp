@@ -87,6 +87,10 @@ QTableView::item { padding: 0 5px; border: none; }
 QTableView::item:selected { background: @selection; color: @text; }
 QHeaderView { background: transparent; border: none; }
 QHeaderView::section { background: @lockedGround; color: @quietText; border: none; border-bottom: 1px solid @border; padding: 5px 8px; }
+QHeaderView::section:hover { background: @selection; }
+QHeaderView::up-arrow { image: url(:/icons/chevron-up.svg); width: 11px; height: 11px; subcontrol-position: center right; right: 4px; }
+QHeaderView::down-arrow { image: url(:/icons/chevron-down.svg); width: 11px; height: 11px; subcontrol-position: center right; right: 4px; }
+QLabel[note="true"] { background: @accent; color: @accentText; border-radius: 5px; padding: 3px 9px; }
 QTableCornerButton::section { background: @lockedGround; border: none; }
 QTreeView { background: @card; color: @text; border: 1px solid @border; border-radius: 6px; outline: none; padding: 4px; }
 QTreeView::item { padding: 1px 2px; border-radius: 4px; }

@@ -1,5 +1,6 @@
 // The tables and the menu tree.
 
+#include "common/Regional.h"
 #include "platform/forms/Controls.h"
 #include "platform/forms/Grid.h"
 #include "ui/Binder.h"
@@ -7,11 +8,10 @@
 #include "ui/QtText.h"
 #include "ui/Style.h"
 #include "ui/TableModels.h"
+#include "ui/TableWidget.h"
 
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
-#include <QTableView>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -19,108 +19,88 @@ namespace varnik::ui {
 
 namespace {
 
-// Row heights and column widths follow the font, the widest column takes what is left.
-class TableWidget : public QTableView {
-public:
-    explicit TableWidget(QWidget* parent) : QTableView(parent) {
-        setSelectionBehavior(SelectRows);
-        setSelectionMode(SingleSelection);
-        setEditTriggers(NoEditTriggers);
-        setAlternatingRowColors(true);
-        setShowGrid(false);
-        setTabKeyNavigation(false);
-        setWordWrap(false);
-        setCornerButtonEnabled(false);
-        setHorizontalScrollMode(ScrollPerPixel);
-        verticalHeader()->hide();
-        verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-        verticalHeader()->setMinimumSectionSize(1);
-        horizontalHeader()->setHighlightSections(false);
-        horizontalHeader()->setMinimumSectionSize(24);
-        horizontalHeader()->setTextElideMode(Qt::ElideRight);
-    }
-    void Spread() {
-        const auto* renewed = static_cast<const TableModel*>(model());
-        if (!renewed || renewed->columnCount() == 0) return;
-        verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
-        const auto& columns = renewed->Columns();
-        const int unit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-        int sum = 0;
-        int widest = columns.size() > 1 ? 1 : 0; // of equals the second: the name behind a code
-        std::vector<int> widths;
-        for (std::size_t i = 0; i < columns.size(); ++i) {
-            const int heading =
-                horizontalHeader()->fontMetrics().horizontalAdvance(ToQt(columns[i].caption)) + 18;
-            // A column of width 0 is there for the screen alone.
-            widths.push_back(columns[i].width == 0 ? 0 : std::max(columns[i].width * unit + 20, heading));
-            sum += widths.back();
-            if (columns[i].width > columns[static_cast<std::size_t>(widest)].width)
-                widest = static_cast<int>(i);
-        }
-        // The widest column takes what is left. Where room is short the others give up a little first, then
-        // it gives up to half of its own, then the table scrolls.
-        constexpr double least = 0.85;
-        int& wide = widths[static_cast<std::size_t>(widest)];
-        const int room = viewport()->width(), others = sum - wide;
-        if (sum > room && others > 0) {
-            const double share = std::clamp(double(room - wide) / others, least, 1.0);
-            for (int& width : widths)
-                if (&width != &wide) width = static_cast<int>(width * share);
-            sum = wide;
-            for (const int& width : widths)
-                if (&width != &wide) sum += width;
-        }
-        wide = std::max(wide + room - sum, wide / 2);
-        for (int i = 0; i < static_cast<int>(widths.size()); ++i) {
-            setColumnHidden(i, widths[static_cast<std::size_t>(i)] == 0);
-            horizontalHeader()->resizeSection(i, widths[static_cast<std::size_t>(i)]);
-        }
-    }
-
-protected:
-    void resizeEvent(QResizeEvent* event) override {
-        QTableView::resizeEvent(event);
-        Spread();
-    }
-    void changeEvent(QEvent* event) override {
-        QTableView::changeEvent(event);
-        if (event->type() != QEvent::FontChange || !model()) return;
-        static_cast<TableModel*>(model())->SetHeadingFont(font());
-        horizontalHeader()->setFont(font());
-        Spread();
-    }
-};
-
 // What Grid and ListGrid share. A change of the control is taken in once, when control returns to the event
 // loop: filling a list row by row costs one renewal.
 template <typename ControlType, typename ModelType>
 class TableBinding : public Binding {
 public:
     TableBinding(Binder& binder, ControlType& table, TableWidget* view)
-        : Binding(binder, table, view), table_(table), view_(view), model_(table) {
-        view->setModel(&model_);
+        : Binding(binder, table, view), table_(table), view_(view), model_(table, binder.Settings()) {
+        view->Take(model_);
         renewal_.setSingleShot(true);
         renewal_.setInterval(0);
         QObject::connect(&renewal_, &QTimer::timeout, view, [this] { Renew(); });
         QObject::connect(view->selectionModel(), &QItemSelectionModel::currentRowChanged, view,
                          [this](const QModelIndex& current) {
-                             if (!renewing_ && current.isValid()) model_.Select(current.row());
+                             if (!renewing_ && current.isValid())
+                                 model_.Select(model_.ControlRow(current.row()));
                          });
+        QObject::connect(&model_, &QAbstractItemModel::modelReset, view, [this] { ShowCurrent(); });
     }
     ~TableBinding() override { view_->setModel(nullptr); }
     QList<QWidget*> EventSources() const override { return {view_, view_->viewport()}; }
     void Refresh() override {
+        closed_ = closed_ || !table_.IsShown();
         if (!renewal_.isActive()) renewal_.start();
     }
     void Renew() {
-        const QScopedValueRollback<bool> quiet(renewing_, true);
         renewal_.stop();
+        // A list that opens again shows its rows as they come.
+        if (std::exchange(closed_, false)) view_->ForgetOrder();
         model_.Renew();
+        if (model_.Narrowed().isEmpty()) view_->ShowNarrowed({});
         if (captions_ != Captions()) {
             captions_ = Captions();
             view_->Spread();
         }
-        const int row = model_.CurrentRow();
+        ShowCurrent();
+    }
+    // Sorted or narrowed rows are walked as they are seen.
+    bool Handles(QKeyEvent& event) override {
+        if (!model_.Arranged() || (event.modifiers() & ~Qt::KeypadModifier)) return false;
+        const int rows = model_.rowCount(), row = model_.ViewRow(model_.CurrentRow());
+        constexpr int page = 10;
+        switch (event.key()) {
+        case Qt::Key_Up:
+            return Walk(row - 1);
+        case Qt::Key_Down:
+            return Walk(row + 1);
+        case Qt::Key_PageUp:
+            return Walk(row - page);
+        case Qt::Key_PageDown:
+            return Walk(row + page);
+        case Qt::Key_Home:
+            return Walk(0);
+        case Qt::Key_End:
+            return Walk(rows - 1);
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return row < 0; // what is not seen is not taken
+        default:
+            return false;
+        }
+    }
+
+protected:
+    bool Walk(int viewRow) {
+        const int rows = model_.rowCount();
+        if (rows > 0) model_.Select(model_.ControlRow(std::clamp(viewRow, 0, rows - 1)));
+        return true;
+    }
+
+    ControlType& table_;
+    TableWidget* view_;
+    ModelType model_;
+
+private:
+    std::string Captions() const {
+        std::string all;
+        for (const forms::GridColumn& column : model_.Columns()) all += column.caption + '\t';
+        return all;
+    }
+    void ShowCurrent() {
+        const QScopedValueRollback<bool> quiet(renewing_, true);
+        const int row = model_.ViewRow(model_.CurrentRow());
         if (row < 0) {
             view_->setCurrentIndex({});
             view_->clearSelection();
@@ -130,21 +110,9 @@ public:
             view_->scrollTo(model_.index(row, 0));
         }
     }
-
-protected:
-    ControlType& table_;
-    TableWidget* view_;
-
-private:
-    std::string Captions() const {
-        std::string all;
-        for (const forms::GridColumn& column : model_.Columns()) all += column.caption + '\t';
-        return all;
-    }
-    ModelType model_;
     QTimer renewal_;
     std::string captions_;
-    bool renewing_ = false;
+    bool renewing_ = false, closed_ = false;
 };
 
 class GridBinding : public TableBinding<forms::Grid, GridModel> {
@@ -161,7 +129,7 @@ public:
     ListBinding(Binder& binder, forms::ListGrid& list, TableWidget* view) : TableBinding(binder, list, view) {
         QObject::connect(view, &QTableView::clicked, view, [this](const QModelIndex& index) {
             if (index.column() == table_.CheckColumn())
-                table_.ToggleCheck(index.row());
+                table_.ToggleCheck(model_.ControlRow(index.row()));
             else
                 table_.Owner().Click(table_);
         });
@@ -169,6 +137,39 @@ public:
             if (index.column() != table_.CheckColumn()) table_.Owner().DoubleClick(table_);
         });
     }
+    // Typing narrows the list to the rows that have the text.
+    bool HandlesLeft(const forms::Key& key) override {
+        if (table_.CheckColumn() >= 0 || key.ctrl || key.alt) return false;
+        QString text = model_.Narrowed();
+        if (key.code == forms::KeyCode::Character)
+            text += QString::fromUcs4(&key.character, 1);
+        else if (text.isEmpty())
+            return false;
+        else if (key.code == forms::KeyCode::Backspace)
+            text.chop(1);
+        else if (key.code == forms::KeyCode::Escape)
+            text.clear();
+        else
+            return false;
+        Narrow(text);
+        return true;
+    }
+
+private:
+    void Narrow(const QString& text) {
+        Renew(); // what was asked for is looked for in what is there now
+        if (text.trimmed().isEmpty()) {
+            model_.Narrow({});
+            view_->ShowNarrowed({});
+            return;
+        }
+        model_.Narrow(text);
+        const int found = model_.rowCount();
+        view_->ShowNarrowed(
+            QStringLiteral("%1:  %2 of %3").arg(text, Counted(found), Counted(model_.TotalRows())));
+        if (model_.ViewRow(model_.CurrentRow()) < 0) Walk(0);
+    }
+    QString Counted(int rows) const { return ToQt(FormatNumber(rows, "#,##0", binder_.Settings())); }
 };
 
 class TreeBinding : public Binding {

@@ -121,6 +121,8 @@ private:
         EnterUpTo("Invoice", "TxtKodeCus");
         Press("Invoice", Qt::Key_F5);
         Both("Invoice", "lookup");
+        QTest::keyClicks(Window("Invoice")->focusWidget(), QStringLiteral("war"));
+        Both("Invoice", "narrowed");
         Press("Invoice", Qt::Key_Return);
         for (const char* line : {"0000000001", "0000000002", "0000000003"}) {
             EnterUpTo("Invoice", "txtKodeBrg");

@@ -13,7 +13,7 @@ const std::string nothing;
 void Grid::SetColumns(std::vector<GridColumn> columns) {
     columns_ = std::move(columns);
     for (auto& row : cells_) row.resize(columns_.size());
-    Changed();
+    ContentsChanged();
 }
 
 void Grid::SetHeading(int column, std::string caption) { SetCell(0, column, std::move(caption)); }
@@ -21,14 +21,14 @@ void Grid::SetHeading(int column, std::string caption) { SetCell(0, column, std:
 void Grid::SetRows(int rows) {
     cells_.resize(static_cast<std::size_t>(std::max(rows - 1, 0)), std::vector<std::string>(columns_.size()));
     row_ = std::min(row_, Rows() - 1);
-    Changed();
+    ContentsChanged();
 }
 
 void Grid::RemoveRow(int row) {
     if (row < 1 || row >= Rows()) return;
     cells_.erase(cells_.begin() + (row - 1));
     row_ = std::min(row_, Rows() - 1);
-    Changed();
+    ContentsChanged();
 }
 
 const std::string& Grid::Cell(int row, int column) const {
@@ -43,7 +43,7 @@ void Grid::SetCell(int row, int column, std::string text) {
     std::string& cell = row == 0 ? columns_[at].caption : cells_[static_cast<std::size_t>(row - 1)][at];
     if (cell == text) return;
     cell = std::move(text);
-    Changed();
+    ContentsChanged();
 }
 
 void Grid::SetRow(int row) {
@@ -62,7 +62,7 @@ void Grid::SelectRow(int row) {
 
 void ListGrid::SetColumns(std::vector<GridColumn> columns) {
     columns_ = std::move(columns);
-    Changed();
+    ContentsChanged();
 }
 
 void ListGrid::Clear() { SetItems({}); }
@@ -71,14 +71,14 @@ void ListGrid::AddItem(std::string tabJoined) {
     TakeOver();
     rows_.push_back(std::move(tabJoined));
     if (row_ < 0) row_ = 0;
-    Changed();
+    ContentsChanged();
 }
 
 void ListGrid::SetItems(std::vector<std::string> tabJoined) {
     line_ = nullptr;
     rows_ = std::move(tabJoined);
     row_ = rows_.empty() ? -1 : 0;
-    Changed();
+    ContentsChanged();
 }
 
 void ListGrid::SetSource(int rows, std::function<std::string(int row)> line) {
@@ -87,7 +87,7 @@ void ListGrid::SetSource(int rows, std::function<std::string(int row)> line) {
     line_ = std::move(line);
     lineRow_ = -1;
     row_ = rows > 0 ? 0 : -1;
-    Changed();
+    ContentsChanged();
 }
 
 // A list that is changed row by row keeps its rows itself.
@@ -128,7 +128,7 @@ void ListGrid::SetCell(int row, int column, std::string text) {
     cells[static_cast<std::size_t>(column)] = std::move(text);
     line = std::move(cells.front());
     for (std::size_t i = 1; i < cells.size(); ++i) line += '\t' + cells[i];
-    Changed();
+    ContentsChanged();
 }
 
 void ListGrid::SetRow(int row) {

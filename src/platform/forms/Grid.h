@@ -37,12 +37,20 @@ public:
     void SetRow(int row);                                // kept within the rows; no event
     void SelectRow(int row);                             // by a person: makes it current, then onRowChange
 
+    unsigned Contents() const { return contents_; } // another number after a change of headings or cells
+
     std::function<void()> onRowChange;
 
 private:
+    void ContentsChanged() {
+        ++contents_;
+        Changed();
+    }
+
     std::vector<GridColumn> columns_;
     std::vector<std::vector<std::string>> cells_;
     int row_ = 0;
+    unsigned contents_ = 0;
 };
 
 // Rows of a search or look-up list. A row is the tab-joined text of its cells, kept as it was added.
@@ -71,6 +79,7 @@ public:
     void ToggleCheck(int row);                   // by a person: turns the yes/no cell of the row over
     int RowHeight() const { return rowHeight_; } // in the list's own units, 0 for its own choice
     void SetRowHeight(int height);
+    unsigned Contents() const { return contents_; } // another number after a change of headings or cells
 
     std::function<void()> onRowChange;
     std::function<void()> onActivate;
@@ -78,6 +87,10 @@ public:
 private:
     const std::string& Line(int row) const;
     void TakeOver();
+    void ContentsChanged() {
+        ++contents_;
+        Changed();
+    }
 
     std::vector<GridColumn> columns_;
     std::vector<std::string> rows_;
@@ -86,6 +99,7 @@ private:
     mutable int lineRow_ = -1; // the row of the source that was asked for last
     mutable std::string lineText_;
     int row_ = -1, checkColumn_ = -1, rowHeight_ = 0;
+    unsigned contents_ = 0;
 };
 
 } // namespace varnik::forms

@@ -45,6 +45,7 @@ struct Node {
     bool centred = false;
     bool right = false; // a caption that is an amount
     bool above = false; // the caption over the field instead of before it
+    bool date = false;  // a text that is a date
 
     Node Label(std::string text) && { return label = std::move(text), std::move(*this); }
     Node By(std::string control) && { return labelBy = std::move(control), std::move(*this); }
@@ -60,6 +61,7 @@ struct Node {
     Node Right() && { return right = true, std::move(*this); }
     Node Centred() && { return centred = true, std::move(*this); }
     Node Above() && { return above = true, std::move(*this); }
+    Node Date() && { return date = true, std::move(*this); }
 };
 
 Node Field(std::string name, int characters = 0);

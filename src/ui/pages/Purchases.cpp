@@ -28,7 +28,7 @@ Page FakturPage() {
         Row({Card("", Form({{Field("TxtNoFaktur", 15)},
                             {Field("TxtTglFaktur", 15)},
                             {Field("txtFaksup", 15)},
-                            {Field("TxtJTP", 15)}})),
+                            {Field("TxtJTP", 15).Date()}})),
              Supplier("TxtAlamat2", Row({Field("TxtKodeSup", 15), Button("bttnSearch(0)"), Spring()}))});
     return DocumentPage(
         "Faktur", {std::move(header), GoodsEntry("bttnSearch(1)", "bttnBatalLine"), Totals(), Navigation});
@@ -36,9 +36,9 @@ Page FakturPage() {
 
 Page FakturReturPage() {
     Node header = Row({Card("", Form({{Field("TxtNoFaktur", 15)},
-                                      {Field("TxtTglFaktur", 15)},
+                                      {Field("TxtTglFaktur", 15).Date()},
                                       {Field("txtNoPO", 15)},
-                                      {Field("TxtTglPO", 15)}})),
+                                      {Field("TxtTglPO", 15).Date()}})),
                        Supplier("txtAlamat2", Field("TxtKodeSup", 15))});
     return DocumentPage("FakturRetur", {.header = std::move(header),
                                         .entry = GoodsEntry("", "bttnBatalLine"),

@@ -56,7 +56,7 @@ Page BayarInvoicePage() {
 
 Page InvoiceReturPage() {
     Node header = Row({Card("", Form({{Field("TxtReturID", 15)},
-                                      {Field("TxtTglRetur", 15)},
+                                      {Field("TxtTglRetur", 15).Date()},
                                       {Row({Field("TxtNoInvoice", 15), Button("bttnSearch"), Spring()})},
                                       {Field("TxtTglInvoice", 15)},
                                       {Field("TxtPPN", 6)}})),
@@ -83,7 +83,7 @@ std::vector<Page> SalesPages() {
     Node header = Row({Card("", Form({{Field("TxtNoInvoice", 15)},
                                       {Field("TxtTglInvoice", 15)},
                                       {Field("txtCusPO", 15)},
-                                      {Field("TxtJTP", 15), Field("TxtPPN", 6)}})),
+                                      {Field("TxtJTP", 15).Date(), Field("TxtPPN", 6)}})),
                        Card("", Form({{Field("TxtKodeCus", 15)},
                                       {Field("TxtNamaCus")},
                                       {Field("TxtAlamat1")},
