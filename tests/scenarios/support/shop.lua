@@ -3,7 +3,7 @@
 
 today "2026-11-22"
 start()
-login("varnik", "kemiri")
+login(User or "varnik", "kemiri") -- a script that works as another user says so before it loads this
 
 local function literal(value)
     if type(value) == "string" and value:match "^#.*#$" then return value end

@@ -1,0 +1,230 @@
+-- Every kind of document through its screen, for scripts that do business by chance: each function enters one
+-- document or takes one back. The goods, partners and accounts are those of open_shop, and the clicks that
+-- write are announced before and after, so that whoever watches knows what is under way.
+dofile(arg[0]:match ".*/" .. "../support/purchases.lua")
+
+Goods, Buyers, Sellers = {}, {}, {}
+for i = 1, 6 do Goods[i] = ("%010d"):format(i) end
+for i = 1, 3 do Buyers[i], Sellers[i] = ("C%09d"):format(i), ("S%d"):format(i) end
+local Service = Goods[#Goods]
+
+-- The shop before its first day; once in a folder. What there is of each of the goods lasts for all days: a
+-- purchase that brings a negative stock to nothing would divide by it.
+function open_shop()
+    for i, code in ipairs(Goods) do
+        product{KodeBrg = code, HargaJual = 10 * i, Jasa = code == Service, SatuanBeli = "DUS", PecahanBeli = 1 + i % 3 * 4}
+        if code ~= Service then
+            purchase(("P%011d"):format(2 * i), code, 7, 70)
+            purchase(("P%011d"):format(2 * i + 1), code, 100000, 500000)
+        end
+    end
+    for _, code in ipairs(Buyers) do customer{KodeCus = code} end
+    for _, code in ipairs(Sellers) do supplier{KodeSup = code} end
+    account{RekID = "1", NamaBank = "Cash", DefaultKas = true}
+    account{RekID = "901", NamaBank = "Bank Nusa"}
+end
+
+-- ---- What writes is announced ----
+
+local What, Writes = "", 0
+local plain_click = click
+local DeletesAtOnce = {BayarInvoice = true, BayarFaktur = true}
+
+function click(name)
+    if name ~= "bttnSave" and not (name == "bttnDel" and DeletesAtOnce[current()]) then return plain_click(name) end
+    Writes = Writes + 1
+    scenario(("begin %d %s"):format(Writes, What))
+    plain_click(name)
+    scenario(("end %d"):format(Writes))
+end
+
+-- Enters one document; what it gives is passed on. The boxes that asked are taken, others are left.
+local function document(what, screen, enter_it, ...)
+    What = what
+    use(screen)
+    local result = enter_it(...)
+    for _, box in ipairs(messages()) do
+        if box.buttons == "ok" or box.icon == "critical" then error(what .. ": a box says " .. box.text) end
+    end
+    return result
+end
+
+Screens = {Invoice = "T01", BayarInvoice = "T02", InvoiceRetur = "T03", Faktur = "T04", BayarFaktur = "T05", FakturRetur = "T06"}
+function open_screens()
+    for _, key in ipairs{"T01", "T02", "T03", "T04", "T05", "T06"} do open(key) end
+end
+
+-- ---- Documents: lines are {code, quantity, price}, quantities as texts ----
+
+Post = {}
+
+function Post.sale(buyer, lines) return document("sale", "Invoice", sale, buyer, lines) end
+
+function Post.sale_deleted(number) return document("sale_deleted", "Invoice", delete_invoice, number) end
+
+-- Pays the invoice that the screen shows, which is the one saved last.
+function Post.cash()
+    return document("cash", "Invoice", function()
+        click "bttnBayar"
+        local number = text "txtNoBukti"
+        click "bttnSave"
+        click "bttnClose"
+        return number
+    end)
+end
+
+function Post.receipt(invoices)
+    return document("receipt", "BayarInvoice", function()
+        click "bttnNew"
+        local number = text "txtNoBukti"
+        choose("TxtCaraBayar", "CASH")
+        choose("TxtRekening", "1")
+        for _, each in ipairs(invoices) do
+            enter("TxtNoInvoice", each)
+            click "bttnAddLine"
+        end
+        click "bttnSave"
+        return number
+    end)
+end
+
+local function delete_voucher(number)
+    enter("txtNoBukti", number)
+    answer "yes"
+    click "bttnDel"
+end
+function Post.receipt_deleted(number) return document("receipt_deleted", "BayarInvoice", delete_voucher, number) end
+
+-- The first line goes back in this quantity, the others whole.
+function Post.take_back(invoice, quantity)
+    return document("take_back", "InvoiceRetur", function()
+        click "bttnNew"
+        local number = text "TxtReturID"
+        enter("TxtNoInvoice", invoice)
+        row("OrderGrid", 1)
+        enter("txtQty", quantity)
+        click "bttnAddLine"
+        click "bttnSave"
+        return number
+    end)
+end
+
+function Post.take_back_deleted(number)
+    return document("take_back_deleted", "InvoiceRetur", function()
+        click "bttnDel"
+        enter("TxtReturID", number)
+        click "bttnSave"
+    end)
+end
+
+function Post.purchase(seller, lines) return document("purchase", "Faktur", buy, seller, lines) end
+
+function Post.purchase_deleted(number) return document("purchase_deleted", "Faktur", delete_purchase, number) end
+
+function Post.send_back(purchased, quantity)
+    return document("send_back", "FakturRetur", function()
+        click "bttnNew"
+        enter("TxtNoFaktur", text "TxtNoFaktur")
+        enter("txtNoPO", purchased)
+        local number = text "TxtNoFaktur"
+        row("OrderGrid", 1)
+        enter("txtQty", quantity)
+        click "bttnAddLine"
+        answer "yes"
+        click "bttnSave"
+        return number
+    end)
+end
+
+function Post.send_back_deleted(number)
+    return document("send_back_deleted", "FakturRetur", function()
+        click "bttnDel"
+        enter("TxtNoFaktur", number)
+        answer "yes"
+        click "bttnSave"
+    end)
+end
+
+function Post.payment(purchases)
+    return document("payment", "BayarFaktur", function()
+        click "bttnNew"
+        local number = text "txtNoBukti"
+        enter("txtNoBukti", number)
+        enter("TxtCaraBayar", "CASH")
+        enter("TxtRekening", "901")
+        for _, each in ipairs(purchases) do
+            enter("TxtNoFaktur", each)
+            click "bttnAddLine"
+        end
+        click "bttnSave"
+        return number
+    end)
+end
+
+function Post.payment_deleted(number) return document("payment_deleted", "BayarFaktur", delete_voucher, number) end
+
+-- ---- A day by chance: what stands is remembered, so that what is taken back is there ----
+
+local chance = math.random
+local standing = {sale = {}, receipt = {}, take_back = {}, purchase = {}, send_back = {}, payment = {}}
+
+local function some_lines(prices)
+    local lines, used = {}, {}
+    for _ = 1, chance(1, 3) do
+        local code = Goods[chance(1, #Goods)]
+        if not used[code] then
+            used[code] = true
+            lines[#lines + 1] = {code, tostring(chance(1, 5)), prices and tostring(chance(1, 40)) or nil}
+        end
+    end
+    return lines
+end
+
+-- Takes one that meets the condition out of those that stand.
+local function take(kind, condition)
+    local all = standing[kind]
+    local from = #all > 0 and chance(1, #all) or 1
+    for i = 0, #all - 1 do
+        local at = (from + i - 1) % #all + 1
+        if not condition or condition(all[at]) then return table.remove(all, at) end
+    end
+end
+local function stands(kind, each) table.insert(standing[kind], each) end
+local function untouched(each) return not each.touched end
+
+local Kinds = {}
+function Kinds.sale()
+    local lines = some_lines()
+    stands("sale", {number = Post.sale(Buyers[chance(1, #Buyers)], lines), lines = lines})
+    if chance(1, 3) == 1 then
+        standing.sale[#standing.sale].touched = true
+        stands("receipt", {number = Post.cash()})
+    end
+end
+function Kinds.purchase()
+    local lines = some_lines(true)
+    stands("purchase", {number = Post.purchase(Sellers[chance(1, #Sellers)], lines), lines = lines})
+end
+-- The documents of `from` that are touched by one of `to`.
+local function upon(to, from, post)
+    local each = take(from, untouched)
+    if not each then return Kinds[from]() end
+    each.touched = true
+    stands(from, each)
+    stands(to, {number = post(each), from = each})
+end
+local function less(each) return tostring(chance(1, tonumber(each.lines[1][2]))) end
+function Kinds.receipt() upon("receipt", "sale", function(each) return Post.receipt{each.number} end) end
+function Kinds.take_back() upon("take_back", "sale", function(each) return Post.take_back(each.number, less(each)) end) end
+function Kinds.payment() upon("payment", "purchase", function(each) return Post.payment{each.number} end) end
+function Kinds.send_back() upon("send_back", "purchase", function(each) return Post.send_back(each.number, less(each)) end) end
+function Kinds.deletion()
+    local kinds = {"sale", "receipt", "take_back", "purchase", "send_back", "payment"}
+    local kind = kinds[chance(1, #kinds)]
+    local gone = take(kind, untouched)
+    if gone then Post[kind .. "_deleted"](gone.number) else Kinds[kind]() end
+end
+
+local Weighted = {"purchase", "purchase", "purchase", "sale", "sale", "sale", "sale", "receipt", "take_back", "payment",
+                  "send_back", "deletion", "deletion"}
+function one_more() Kinds[Weighted[chance(1, #Weighted)]]() end
