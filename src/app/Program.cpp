@@ -1,5 +1,6 @@
 #include "app/Program.h"
 
+#include "cashbook/Cashbook.h"
 #include "data/DataSource.h"
 #include "master/Master.h"
 #include "purchases/Purchases.h"
@@ -17,6 +18,7 @@ Program::Program(Desktop& desktop, const Regional& machine)
     RegisterMaster(services_);
     RegisterSales(services_);
     RegisterPurchases(services_);
+    RegisterCashbook(services_);
 }
 
 void Program::Start() { Main(services_); }

@@ -18,8 +18,10 @@ SearchPanel::SearchPanel(forms::Screen& screen, SearchLayout layout, const Searc
     frame_.Hold({&criterion_, &value_, &execute_, &take_, &grid_});
     frame_.SetOverlay(true);
     frame_.SetVisible(false);
-    for (const SearchChoice& choice : layout_.choices) criterion_.AddItem(std::string(choice.caption));
-    criterion_.SetText(std::string(layout_.choices.front().caption));
+    for (const std::string_view offered : layout_.offered) criterion_.AddItem(std::string(offered));
+    if (layout_.offered.empty())
+        for (const SearchChoice& choice : layout_.choices) criterion_.AddItem(std::string(choice.caption));
+    criterion_.SetText(criterion_.Items().front());
     grid_.SetColumns(layout_.columns);
     execute_.onClick = [this] { onExecute(); };
     take_.onClick = [this] { onTake(); };
@@ -51,15 +53,15 @@ void SearchPanel::Execute(ado::Connection& connection, const Regional& regional)
     const auto search = [&] {
         ado::Recordset rows(Statement(), connection, ado::CursorType::Static);
         const int columns = static_cast<int>(layout_.columns.size());
-        const int amountsEnd = columns - layout_.textsAfter;
         for (; !rows.Eof(); rows.MoveNext()) {
             std::string line;
             for (int column = 0; column < columns; ++column) {
                 const Value value = rows[column];
                 if (column > 0) line += '\t';
-                line += column < amountsEnd - layout_.amounts || column >= amountsEnd
-                            ? NullToText(value, regional)
-                            : FormatNumber(NullToNumber(value, regional), "#,##0", regional);
+                const bool amount =
+                    layout_.columns[static_cast<std::size_t>(column)].align == forms::Align::Right;
+                line += amount ? FormatNumber(NullToNumber(value, regional), layout_.mask, regional)
+                               : NullToText(value, regional);
             }
             list.push_back(std::move(line));
         }

@@ -23,10 +23,11 @@ struct SearchChoice {
 struct SearchLayout {
     std::string_view select;
     std::span<const SearchChoice> choices;
-    std::vector<forms::GridColumn> columns;
-    int amounts = 0;         // how many of the last columns are amounts, shown as "#,##0"
-    int textsAfter = 0;      // columns behind the amounts that are none
-    bool failsAloud = false; // a statement that fails shows its failure
+    std::vector<forms::GridColumn> columns; // the right-aligned ones are amounts
+    std::string_view mask = "#,##0";        // of the amounts
+    bool failsAloud = false;                // a statement that fails shows its failure
+    // What the list of criteria offers, where it has words of its own; those that are no choice find all.
+    std::span<const std::string_view> offered = {};
 };
 
 struct SearchNames {

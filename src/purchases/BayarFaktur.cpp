@@ -40,7 +40,6 @@ document::SearchLayout OpenPurchases() {
                         {"Total", Align::Right, 11},
                         {"Payment", Align::Right, 11},
                         {"Balance", Align::Right, 11}},
-            .amounts = 7,
             .failsAloud = true};
 }
 
@@ -70,8 +69,6 @@ document::SearchLayout Payments() {
                         {"Bank Account/Cash", Align::Left, 20},
                         {"Cheque Number", Align::Left, 14},
                         {"Due Date", Align::Left, 12}},
-            .amounts = 1,
-            .textsAfter = 4,
             .failsAloud = true};
 }
 

@@ -42,7 +42,6 @@ document::SearchLayout Search() {
                         {"Po Amount", Align::Right, 12},
                         {"Payment", Align::Right, 12},
                         {"Balance", Align::Right, 12}},
-            .amounts = 3,
             .failsAloud = true};
 }
 
@@ -142,7 +141,7 @@ void Faktur::StartNew() {
     SetMode(EntryMode::New);
     ClearFaktur();
     line_.bttnAddLine.SetEnabled(true);
-    EnableNavigation(false);
+    navigation_.SetEnabled(false);
     ShowEntryFrame();
     TxtNoFaktur.SetText(data::NextNumber(services_, Document::Faktur));
     SetFocus(TxtNoFaktur);
@@ -152,7 +151,7 @@ void Faktur::StartDelete() {
     SetMode(EntryMode::Deleting);
     ClearOrderGrid();
     line_.bttnAddLine.SetEnabled(false);
-    EnableNavigation(false);
+    navigation_.SetEnabled(false);
     bttnSave.SetCaption("&Delete");
     ShowEntryFrame();
     SetFocus(TxtNoFaktur);
@@ -177,7 +176,7 @@ bool Faktur::ReverseConfirmed() { return Ask("Are you sure you want delete this 
 void Faktur::EntryEnded() {
     line_.bttnAddLine.SetEnabled(false);
     line_.FrameIsiBarang.SetVisible(false);
-    EnableNavigation(true);
+    navigation_.SetEnabled(true);
     LoadFaktur(TxtNoFaktur.Text());
 }
 

@@ -54,10 +54,7 @@ FakturRetur::FakturRetur(Services& services)
     line_.bttnAddLine.onClick = [this] { AddLine(); };
     line_.BatalLine.onClick = [this] { CancelLine(); };
     OrderGrid.onClick = [this] { OpenRow(); };
-    bttnFirst.onClick = [this] { Move(&ado::Recordset::MoveFirst); };
-    bttnPrev.onClick = [this] { Move(&ado::Recordset::MovePrevious); };
-    bttnNext.onClick = [this] { Move(&ado::Recordset::MoveNext); };
-    bttnLast.onClick = [this] { Move(&ado::Recordset::MoveLast); };
+    navigation_.onMove = [this](document::Navigation::Move move) { Move(move); };
 }
 
 void FakturRetur::Load() {
@@ -110,7 +107,7 @@ void FakturRetur::StartNew() {
     SetMode(EntryMode::New);
     ClearRetur();
     line_.bttnAddLine.SetEnabled(true);
-    EnableNavigation(false);
+    navigation_.SetEnabled(false);
     ShowEntryFrame();
     TxtNoFaktur.SetText(data::NextNumber(services_, Document::FakturRetur));
     SetFocus(TxtNoFaktur);
@@ -118,7 +115,7 @@ void FakturRetur::StartNew() {
 
 void FakturRetur::StartDelete() {
     SetMode(EntryMode::Deleting);
-    EnableNavigation(false);
+    navigation_.SetEnabled(false);
     bttnSave.SetCaption("&Delete");
     ShowEntryFrame();
     SetFocus(TxtNoFaktur);
@@ -140,7 +137,7 @@ void FakturRetur::CancelEntry() {
 void FakturRetur::EntryEnded() {
     line_.FrameIsiBarang.SetVisible(false);
     line_.bttnAddLine.SetEnabled(false);
-    EnableNavigation(true);
+    navigation_.SetEnabled(true);
 }
 
 void FakturRetur::Find() {
@@ -157,18 +154,11 @@ void FakturRetur::Find() {
 }
 
 // Beyond either end the row at that end stays.
-void FakturRetur::Move(void (ado::Recordset::*move)()) {
+void FakturRetur::Move(document::Navigation::Move move) {
     Guarded([&](Guard& step) {
         bool any = false;
-        step.Step([&] { any = !returns_.Empty(); });
+        step.Step([&] { any = document::Navigation::Walk(returns_, move); });
         if (!any) return ClearRetur();
-        step.Step([&] {
-            const bool outside = (returns_.Eof() && move == &ado::Recordset::MoveNext) ||
-                                 (returns_.Bof() && move == &ado::Recordset::MovePrevious);
-            if (!outside) (returns_.*move)();
-            if (returns_.Eof()) returns_.MoveLast();
-            if (returns_.Bof()) returns_.MoveFirst();
-        });
         ShowReturn(step);
     });
 }

@@ -36,7 +36,7 @@ private:
     void Post() override { PostRetur(); }
     void Reverse() override { ReverseRetur(); }
     void EntryEnded() override;
-    void Move(void (ado::Recordset::*move)());
+    void Move(document::Navigation::Move move);
 
     // --- Header and records ---
     void NumberLeft();

@@ -3,21 +3,7 @@
 namespace varnik::purchases {
 
 PurchaseScreen::PurchaseScreen(Services& services, std::string name, std::string caption)
-    : DocumentScreen(services, std::move(name), std::move(caption)),
-      bttnFirst(*this, "bttnFirst", "|<"),
-      bttnPrev(*this, "bttnPrev", "<"),
-      bttnNext(*this, "bttnNext", ">"),
-      bttnLast(*this, "bttnLast", ">|") {
-    FrameBawah.Hold({&bttnFirst, &bttnPrev, &bttnNext, &bttnLast});
-    bttnFirst.SetToolTip("First document");
-    bttnPrev.SetToolTip("Document before");
-    bttnNext.SetToolTip("Document after");
-    bttnLast.SetToolTip("Last document");
-}
-
-void PurchaseScreen::EnableNavigation(bool enabled) {
-    for (forms::Button* button : {&bttnFirst, &bttnPrev, &bttnNext, &bttnLast}) button->SetEnabled(enabled);
-}
+    : DocumentScreen(services, std::move(name), std::move(caption)), navigation_(*this, FrameBawah) {}
 
 void PurchaseScreen::ShowSums(document::TotalBoxes& boxes) const {
     boxes.Show({.SumBruto = sums_.JumBruto,

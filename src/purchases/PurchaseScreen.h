@@ -5,6 +5,7 @@
 #include "document/DocumentScreen.h"
 #include "document/EntryLine.h"
 #include "document/LookupList.h"
+#include "document/Navigation.h"
 #include "document/OrderLines.h"
 #include "document/SearchPanel.h"
 #include "document/Totals.h"
@@ -26,9 +27,8 @@ class PurchaseScreen : public document::DocumentScreen {
 protected:
     PurchaseScreen(Services& services, std::string name, std::string caption);
 
-    forms::Button bttnFirst, bttnPrev, bttnNext, bttnLast;
+    document::Navigation navigation_;
 
-    void EnableNavigation(bool enabled);
     void ShowSums(document::TotalBoxes& boxes) const;
     PurchaseLine LineOf(const document::OrderLines& grid, int row) const;
     // Whether the row is one to post: quantity and price are numbers.

@@ -42,8 +42,7 @@ document::SearchLayout InvoiceSearch() {
              {"Tax", Align::Right, 9},
              {"Amount", Align::Right, 11},
              {"Payment", Align::Right, 11},
-             {"Balance", Align::Right, 11}},
-            7};
+             {"Balance", Align::Right, 11}}};
 }
 
 // Wanted: the date of payment looks at the date of the invoice.
@@ -71,9 +70,7 @@ document::SearchLayout ReceiptSearch() {
                         {"Account", Align::Left, 8},
                         {"Cash or Bank", Align::Left, 18},
                         {"Cheque No", Align::Left, 12},
-                        {"Due Date", Align::Left, 12}},
-            .amounts = 1,
-            .textsAfter = 4};
+                        {"Due Date", Align::Left, 12}}};
 }
 
 } // namespace

@@ -31,8 +31,7 @@ document::SearchLayout Search() {
              {"Tax", Align::Right, 11},
              {"Amount", Align::Right, 12},
              {"Payment", Align::Right, 12},
-             {"Balance", Align::Right, 12}},
-            5};
+             {"Balance", Align::Right, 12}}};
 }
 
 } // namespace

@@ -40,7 +40,7 @@ document::SearchLayout SearchOf(std::string_view select, std::span<const documen
                                            {"Name Of Customer", forms::Align::Left, 26}};
     columns.insert(columns.end(), numberAndDate.begin(), numberAndDate.end());
     columns.insert(columns.end(), amounts.begin(), amounts.end());
-    return {select, choices, std::move(columns), static_cast<int>(amounts.size())};
+    return {select, choices, std::move(columns)};
 }
 
 document::SearchLayout InvoiceSearch() {

@@ -103,13 +103,18 @@ Page DocumentPage(std::string screen, DocumentParts parts) {
 }
 
 Page VoucherPage(std::string screen, VoucherParts parts) {
-    return {std::move(screen),
-            Family::Voucher,
-            Column({DocumentTools(std::move(parts.furtherButtons)), std::move(parts.head),
-                    std::move(parts.entry), Table("OrderGrid", 8).Label("Lines"),
-                    Row({Spring(), Heading("Total"), Field("lblJumBAYAR", 16).Title().Right()})}),
-            {SearchPanelOver(), SecondSearchOver()}};
+    std::vector<Node> content{DocumentTools(std::move(parts.furtherButtons)), std::move(parts.head),
+                              std::move(parts.entry)};
+    if (parts.lines) {
+        content.push_back(Table("OrderGrid", 8).Label("Lines"));
+        content.push_back(Row({Spring(), Heading("Total"), Field("lblJumBAYAR", 16).Title().Right()}));
+    }
+    Page page{std::move(screen), Family::Voucher, Column(std::move(content)), {SearchPanelOver()}};
+    if (parts.secondSearch) page.overlays.push_back(SecondSearchOver());
+    return page;
 }
+
+std::vector<std::string> NavigationButtons() { return {"bttnFirst", "bttnPrev", "bttnNext", "bttnLast"}; }
 
 Node GoodsEntry(std::string search, std::string cancel) {
     std::vector<Node> product{Field("txtKodeBrg", 13).Above(), Field("TxtDiskripsi", 24).Above().Share(1)};
@@ -143,7 +148,7 @@ Page DialogPage(std::string screen, Node content, std::vector<std::string> butto
 const std::vector<Page>& AllPages() {
     static const std::vector<Page> pages = [] {
         std::vector<Page> all;
-        for (auto* folder : {ShellPages, MasterPages, SalesPages, PurchasesPages})
+        for (auto* folder : {ShellPages, MasterPages, SalesPages, PurchasesPages, CashbookPages})
             for (Page& page : folder()) all.push_back(std::move(page));
         return all;
     }();

@@ -119,8 +119,12 @@ Page DocumentPage(std::string screen, DocumentParts parts);
 struct VoucherParts {
     Node head, entry;
     std::vector<std::string> furtherButtons{};
+    bool lines = true;        // has a grid of lines and their sum
+    bool secondSearch = true; // one for what is paid, one for the vouchers
 };
 Page VoucherPage(std::string screen, VoucherParts parts);
+// The buttons that walk through the documents.
+std::vector<std::string> NavigationButtons();
 // FrmCari2, the search for the vouchers or returns themselves.
 Overlay SecondSearchOver();
 
@@ -142,5 +146,6 @@ std::vector<Page> ShellPages();
 std::vector<Page> MasterPages();
 std::vector<Page> SalesPages();
 std::vector<Page> PurchasesPages();
+std::vector<Page> CashbookPages();
 
 } // namespace varnik::ui

@@ -21,8 +21,6 @@ Node Totals() {
                           {Field("txtJumTotal", 14).Total().Label("Total").Span(2)}}));
 }
 
-const std::vector<std::string> Navigation{"bttnFirst", "bttnPrev", "bttnNext", "bttnLast"};
-
 Page FakturPage() {
     Node header =
         Row({Card("", Form({{Field("TxtNoFaktur", 15)},
@@ -30,8 +28,8 @@ Page FakturPage() {
                             {Field("txtFaksup", 15)},
                             {Field("TxtJTP", 15).Date()}})),
              Supplier("TxtAlamat2", Row({Field("TxtKodeSup", 15), Button("bttnSearch(0)"), Spring()}))});
-    return DocumentPage(
-        "Faktur", {std::move(header), GoodsEntry("bttnSearch(1)", "bttnBatalLine"), Totals(), Navigation});
+    return DocumentPage("Faktur", {std::move(header), GoodsEntry("bttnSearch(1)", "bttnBatalLine"), Totals(),
+                                   NavigationButtons()});
 }
 
 Page FakturReturPage() {
@@ -43,7 +41,7 @@ Page FakturReturPage() {
     return DocumentPage("FakturRetur", {.header = std::move(header),
                                         .entry = GoodsEntry("", "bttnBatalLine"),
                                         .totals = Totals(),
-                                        .furtherButtons = Navigation,
+                                        .furtherButtons = NavigationButtons(),
                                         .lookup = "",
                                         .search = false});
 }

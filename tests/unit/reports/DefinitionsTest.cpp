@@ -53,6 +53,13 @@ const std::vector<Case> Cases = {
 0000000001|000000000300|2026-11-30|902|Bank Satu|Ibu Sri|2500000|CHEQUE|PAYMENT TO PT Pabrik Semen Po No.000000004100|C-7781|PT Pabrik Semen|INV/2026/77
 0000000002|000000000300|2026-11-30|902|Bank Satu|Ibu Sri|150000.50|CHEQUE|PAYMENT TO PT Pabrik Semen Po No.000000004100|C-7781|CV Paku Jaya|
 )"},
+    {"BKK2",
+     "BKK2.rpt",
+     {},
+     R"(NoBKK|TglBKK@|CaraBayar|Keterangan|RekID|NoCek|Jumlah#|Penerima|KodeBiaya|JumlahBiaya#|Diskripsi|NamaBank|NoRek
+000000000800|2026-11-25|CASH|PAYMENT|001||1315.50|Pak Udin|0000000001|1200|Daily wages|Kas Kecil|-
+000000000800|2026-11-25|CASH|PAYMENT|001||1315.50|Pak Udin|0000000003|115.50|Tolls / parking|Kas Kecil|-
+)"},
     {"PORetur",
      "PORetur.rpt",
      {},
