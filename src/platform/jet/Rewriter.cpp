@@ -1,7 +1,7 @@
 // The four statements: which stretch of the text is which clause, and what each needs. Everything below a
 // clause is an expression.
 
-#include "platform/jet/Expression.h"
+#include "platform/jet/Implied.h"
 
 #include "common/Text.h"
 
@@ -102,6 +102,7 @@ private:
             return Range{begin + 1, end};
         };
         if (from < range.end) Scope(until(from));
+        const Implied implied(expressions_, where < range.end ? until(where) : Range{});
 
         std::size_t list = range.begin + 1;
         Write("select");
@@ -119,11 +120,14 @@ private:
         std::string tables, condition, sorting;
         if (from < range.end) {
             Write("from");
-            tables = Piece([&] { From(until(from)); });
+            tables = Piece([&] { From(until(from), &implied); });
         }
         if (where < range.end) {
             Write("where");
-            condition = Piece([&] { expressions_.Expression(until(where), Use::Condition); });
+            condition = Piece([&] {
+                expressions_.Expression(until(where), Use::Condition);
+                implied.WriteDays(expressions_);
+            });
         }
         if (group < range.end) {
             Write("group");
@@ -188,13 +192,13 @@ private:
     }
 
     // Tables, their joins and the conditions of these.
-    void From(Range range) {
+    void From(Range range, const Implied* implied = nullptr) {
         for (std::size_t i = range.begin; i < range.end; ++i) {
             if (Word(i, "(")) {
                 const std::size_t close = expressions_.Match(i);
                 Write("(");
                 const Range inside{i + 1, close};
-                Word(i + 1, "select") ? Select(inside, nullptr) : From(inside);
+                Word(i + 1, "select") ? Select(inside, nullptr) : From(inside, implied);
                 Write(")");
                 i = close;
             } else if (Word(i, "on")) {
@@ -203,6 +207,7 @@ private:
                     end = Word(end, "(") ? expressions_.Match(end) + 1 : end + 1;
                 Write("on");
                 expressions_.Expression({i + 1, end}, Use::Condition);
+                if (implied != nullptr) implied->WriteJoin(expressions_, {i + 1, end});
                 i = end - 1;
             } else {
                 expressions_.WriteToken(i);

@@ -224,6 +224,54 @@ TEST_F(Queries, OneVoucherOneUserOnePartyAreSeeks) {
     }
 }
 
+// The statements of the ledger books: one party's month among many months of others and of its own.
+TEST_F(Queries, AMonthOfOneAccountIsASeek) {
+    Masters();
+    const auto month = [](const std::string& table, const std::string& from) {
+        return "SELECT " + from + " Where month(" + table + "Tanggal)= 3 And Year (" + table +
+               "Tanggal) = 2026 And ";
+    };
+    const std::vector<std::string> statements = {
+        month("", "NamaBank,NoBukti From QueryBank") + "RekID = 'K1'",
+        month("QueryBank.", "Sum(QueryBank.Debit) as D From QueryBank") + "QueryBank.RekID = 'K1' ",
+        month("QueryPiutang.", "NamaCus,QueryPiutang.Debit From Customer LEFT OUTER JOIN QueryPiutang ON    "
+                               "Customer.KodeCus = QueryPiutang.KodeCus ") +
+            "Customer.KodeCus = 'c1'  Order By QueryPiutang.Tanggal",
+        month("QueryHutang.", "NamaSup,QueryHutang.Debit From Supplier LEFT OUTER JOIN QueryHutang ON    "
+                              "Supplier.KodeSup = QueryHutang.KodeSup ") +
+            "Supplier.KodeSup = 'S1'",
+        "SELECT Sum(QueryPiutang.Debit) as D From QueryPiutang Where QueryPiutang.Tanggal < "
+        "Datevalue('01/ 1/ 2026')  and QueryPiutang.KodeCus = 'C1'  ",
+        "SELECT Sum(QueryBank.Debit) as D From QueryBank Where QueryBank.Tanggal < Datevalue('01/ 1/ "
+        "2026')  and QueryBank.RekID = 'K1'  ",
+    };
+    const auto grow = [&](int from, int to) {
+        for (int i = from; i <= to; ++i) {
+            Invoice(Number(i));
+            Receipt(Number(i));
+            Paid(Number(i), Number(i), "C1", 50);
+            Payment(Number(i), "'B1'");
+            Faktur(Number(i));
+            PaidFaktur(Number(i), Number(i));
+        }
+    };
+    grow(1, 3);
+    // Rows of the month itself come out of every one of them, whatever the letters of the code.
+    for (const char* sql : {"Update Invoice Set TglInvoice = '3/31/2026' Where NoInvoice = '000000000100'",
+                            "Update BKM Set TglBKM = '3/31/2026' Where NoBKM = '000000000100'",
+                            "Update Faktur Set TglFaktur = '3/1/2026' Where NoFaktur = '000000000100'"})
+        connection.Execute(sql);
+    std::vector<std::int64_t> few;
+    for (const std::string& sql : statements) {
+        ado::Recordset rows(sql, connection, ado::CursorType::Static);
+        EXPECT_EQ(rows.RecordCount(), 1) << sql;
+        few.push_back(Effort(sql));
+    }
+    grow(4, 300);
+    for (std::size_t i = 0; i < statements.size(); ++i)
+        EXPECT_LE(Effort(statements[i]), few[i] + 10) << statements[i];
+}
+
 TEST_F(Queries, JoinsKeepAndDropTheRowsThatCallersExpect) {
     Masters();
     Invoice("000000000100", "C1");

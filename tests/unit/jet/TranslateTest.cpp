@@ -48,10 +48,21 @@ TEST(Translate, RewritesWhatTheEngineWouldReadOtherwise) {
          "select substr ( NoInvoice , 11 , 2 ) AS NOUSER , MAX ( substr ( NoInvoice , 1 , 10 ) ) AS ID from "
          "Invoice group BY substr ( NoInvoice , 11 , 2 )"},
         {"Select Max (RekID) as Kode From Bank ", "select Max ( RekID ) as Kode from Bank"},
-        {"Select a From Invoice Where month(TglInvoice)= 3 And Year (TglInvoice) = 2026",
-         "select a from Invoice where cast ( substr ( TglInvoice , 6 , 2 ) as integer ) = 3 And cast ( "
+        {"Select a From Invoice Where month(TglInvoice)= 3 Or Year (TglInvoice) = 2026",
+         "select a from Invoice where cast ( substr ( TglInvoice , 6 , 2 ) as integer ) = 3 Or cast ( "
          "substr ( "
          "TglInvoice , 1 , 4 ) as integer ) = 2026"},
+        // a month of a year is a stretch of days as well, and a fixed code goes through a join
+        {"Select a From Invoice Where month(TglInvoice)= 3 And Year (TglInvoice) = 2026",
+         "select a from Invoice where cast ( substr ( TglInvoice , 6 , 2 ) as integer ) = 3 And cast ( "
+         "substr ( TglInvoice , 1 , 4 ) as integer ) = 2026 and TglInvoice >= printf ( '%04d-%02d' , 2026 , "
+         "3 ) and TglInvoice < printf ( '%04d-%02d~' , 2026 , 3 )"},
+        {"Select a From Bank LEFT OUTER JOIN Q ON Bank.RekID = Q.RekID Where Saldo Between 1 And 2 And "
+         "Bank.RekID = 'A1'",
+         "select a from Bank LEFT OUTER JOIN Q on Bank . RekID = Q . RekID and Q . RekID = ?1 collate nocase "
+         "where Saldo Between 1 And 2 And Bank . RekID = ?2"},
+        {"Select a From Bank LEFT JOIN Q ON Bank.RekID = Q.RekID Where Bank.RekID = 'A1' Or Q.b = 1",
+         "select a from Bank LEFT JOIN Q on Bank . RekID = Q . RekID where Bank . RekID = ?1 Or Q . b = 1"},
         // texts are joined, numbers added
         {"Select RekID + ' - '+NamaBank as N, SaldoAkhir + 1 as S From Bank",
          "select RekID || ?1 || NamaBank as N , SaldoAkhir + 1 as S from Bank"},
