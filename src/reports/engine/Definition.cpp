@@ -184,6 +184,7 @@ Running ReadRunning(const toml::table& table) {
     section.Parse("change", running.change);
     section.Get("opening", running.opening);
     section.Get("closing", running.closing);
+    section.Get("balance", running.balance);
     section.Get("opening_caption", running.openingCaption);
     section.Get("closing_caption", running.closingCaption);
     section.RefuseTheRest();
@@ -225,6 +226,7 @@ Definition Read(const toml::table& table) {
     section.Texts("sort",
                   [&](const toml::node&, const std::string& name) { definition.sort.push_back(name); });
     section.Get("leave_out_zero", definition.leaveOutZero);
+    section.Get("summary", definition.summary);
     section.Get("total_caption", definition.totalCaption);
     section.Tables("column",
                    [&](const toml::table& item) { definition.columns.push_back(ReadColumn(item)); });

@@ -59,6 +59,8 @@ struct Running {
     Expression change;   // what a row adds: "Debit - Kredit"
     std::string opening; // parameter with the balance before the first row
     std::string closing; // parameter with the balance after the last row
+    // Column that holds the balance after each row: then every innermost group opens and closes by itself.
+    std::string balance;
     std::string openingCaption = "Opening balance";
     std::string closingCaption = "Closing balance";
 };
@@ -93,6 +95,7 @@ struct Definition {
     std::string leaveOutZero;      // rows whose value in this column is 0 are left out
     std::vector<Column> columns;
     std::vector<Group> groups; // outermost first
+    bool summary = false;      // in the summary form, whatever the parameter Detail says
     std::string totalCaption = "Total";
     std::optional<Running> running;
     std::optional<Document> document;

@@ -46,7 +46,8 @@ void Layout::List() {
     else
         Add(Kind::NoRows, 2 * LineItemHeight());
     const bool document = table_.Layout().document.has_value();
-    const bool closes = table_.HasOpening() || (table_.HasTotals() && table_.RowCount() > 0);
+    const bool closes =
+        !table_.BalancesGroups() && (table_.HasOpening() || (table_.HasTotals() && table_.RowCount() > 0));
     if (closes && !document) Add(Kind::Total, LineItemHeight() + 1);
     if (document && table_.RowCount() > 0) Add(Kind::Foot, footHeight_);
 }
@@ -68,6 +69,8 @@ void Layout::ListGroups(std::size_t level, Span span) {
             continue;
         }
         if (!group.header.Empty()) Add(Kind::GroupHeader, LineItemHeight() + GroupGap, level, i);
+        if (level + 1 == definition.groups.size() && table_.BalancesGroups())
+            Add(Kind::GroupOpening, LineItemHeight(), level, i);
         ListGroups(level + 1, groups[i]);
         if (!group.footer.Empty() && table_.HasTotals()) Add(Kind::GroupFooter, LineItemHeight(), level, i);
     }
@@ -75,7 +78,8 @@ void Layout::ListGroups(std::size_t level, Span span) {
 
 bool Layout::StaysWithNext(std::size_t item) const {
     if (item + 1 == items_.size()) return false;
-    if (items_[item].kind == Kind::GroupHeader || items_[item].kind == Kind::Opening) return true;
+    const Kind kind = items_[item].kind;
+    if (kind == Kind::GroupHeader || kind == Kind::Opening || kind == Kind::GroupOpening) return true;
     const Kind next = items_[item + 1].kind;
     return next == Kind::GroupFooter || next == Kind::Total || next == Kind::Foot;
 }
@@ -114,6 +118,7 @@ std::uint32_t Layout::FirstRow(const Item& item) const {
     case Kind::Row:
         return item.index;
     case Kind::GroupHeader:
+    case Kind::GroupOpening:
     case Kind::SummaryRow:
         return table_.Groups(item.level)[item.index].first;
     case Kind::GroupFooter:
@@ -201,6 +206,7 @@ void Layout::Draw(const Item& item, double y, Page& page) const {
     const Definition& definition = table_.Layout();
     switch (item.kind) {
     case Kind::Opening:
+    case Kind::GroupOpening:
         DrawSums(item, definition.running->openingCaption, y, page);
         HorizontalRule(page, Margin, y + item.height, width);
         break;
@@ -267,14 +273,20 @@ void Layout::DrawGroupHeader(std::size_t level, std::size_t group, bool continue
          {table_.FontSize(), true, Accent});
 }
 
+double Layout::BalanceOf(const Item& item) const {
+    if (item.kind == Kind::GroupOpening) return table_.OpeningOf(table_.Groups(item.level)[item.index]);
+    if (item.kind == Kind::GroupFooter) return table_.ClosingOf(table_.Groups(item.level)[item.index]);
+    return item.kind == Kind::Opening ? table_.Opening() : table_.Closing();
+}
+
 // A caption on the left, sums and balance under their columns.
 void Layout::DrawSums(const Item& item, const std::string& caption, double y, Page& page) const {
     const double size = table_.FontSize(), top = y + (item.height - LineHeight(size)) / 2;
     double captionWidth = PageWidth() - 2 * Margin;
     for (const Slot& slot : table_.Slots()) {
         std::string text;
-        if (slot.column->running && item.kind != Kind::GroupFooter)
-            text = table_.FigureText(slot, item.kind == Kind::Opening ? table_.Opening() : table_.Closing());
+        if (slot.column->running && (item.kind != Kind::GroupFooter || table_.BalancesGroups()))
+            text = table_.FigureText(slot, BalanceOf(item));
         else if (slot.sum >= 0 && item.kind == Kind::GroupFooter)
             text = table_.GroupSum(slot, item.level, item.index);
         else if (slot.sum >= 0 && item.kind == Kind::Total)

@@ -28,6 +28,7 @@ public:
 private:
     enum class Kind : std::uint8_t {
         Opening,
+        GroupOpening,
         GroupHeader,
         Row,
         SummaryRow,
@@ -60,6 +61,7 @@ private:
     void DrawCells(const std::function<std::string(const Slot&)>& textOf, double y, double height,
                    Page& page) const;
     void DrawGroupHeader(std::size_t level, std::size_t group, bool continued, double y, Page& page) const;
+    double BalanceOf(const Item& item) const; // of an opening, a group's foot or the end
     void DrawSums(const Item& item, const std::string& caption, double y, Page& page) const;
     void DrawHeadings(double y, Page& page) const;
     void DrawPageFoot(Page& page) const;

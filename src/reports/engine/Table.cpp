@@ -3,6 +3,7 @@
 #include "common/Numbers.h"
 #include "common/Text.h"
 #include "reports/engine/Draw.h"
+#include "reports/engine/Statement.h"
 #include "reports/engine/TextMetrics.h"
 
 #include <algorithm>
@@ -54,7 +55,7 @@ Table::Table(Definition definition, Rows rows, Facts facts, double width)
     : definition_(std::move(definition)), rows_(std::move(rows)), facts_(std::move(facts)) {
     const bool groupsInOneLine = std::any_of(definition_.groups.begin(), definition_.groups.end(),
                                              [](const Group& group) { return group.summary; });
-    summary_ = groupsInOneLine && EqualsNoCase(Parameter(facts_, "Detail"), "S");
+    summary_ = groupsInOneLine && (definition_.summary || EqualsNoCase(Parameter(facts_, "Detail"), "S"));
     if (summary_) // what stands under the group that is one line has no place
         while (!definition_.groups.back().summary) definition_.groups.pop_back();
     ChooseColumns();
@@ -119,6 +120,12 @@ void Table::Balance() {
     if (!definition_.running) return;
     Running& running = *definition_.running;
     running.change.Bind(rows_);
+    if (BalancesGroups()) {
+        const int balance = rows_.Find(running.balance);
+        for (const std::uint32_t stored : order_)
+            running_.push_back(balance < 0 ? 0 : rows_.Number(stored, balance));
+        return;
+    }
     long double sum = 0;
     running_.reserve(order_.size());
     for (const std::uint32_t stored : order_) {
@@ -134,6 +141,10 @@ void Table::Balance() {
                                   : 0;
     closing_ = !closing.empty() ? ToNumber(closing, facts_.regional) : opening_ + static_cast<double>(sum);
     for (double& balance : running_) balance += opening_;
+}
+
+double Table::OpeningOf(Span group) const {
+    return running_[group.first] - definition_.running->change.Evaluate(rows_, order_[group.first]);
 }
 
 void Table::FindGroups() {
@@ -183,7 +194,10 @@ void Table::ChooseMasks() {
         if (slot.figures) {
             for (std::uint32_t row = 0; row < RowCount(); ++row) look(Number(slot, row));
             if (slot.sum >= 0) look(grandSums_[static_cast<std::size_t>(slot.sum)]);
-            if (slot.column->running) {
+            if (slot.column->running && BalancesGroups()) {
+                for (std::size_t group = 0; !groups_.empty() && group < groups_.back().spans.size(); ++group)
+                    look(OpeningOf(groups_.back().spans[group]));
+            } else if (slot.column->running) {
                 look(Opening());
                 look(Closing());
             }
@@ -344,10 +358,16 @@ std::string Table::FillPlace(const Template::Place& place, Span span, bool decim
         const std::string given = Parameter(facts_, place.name);
         return place.words && !given.empty() ? words(ToNumber(given, facts_.regional)) : given;
     }
-    if (span.first >= span.last) return {};
+    // Without rows a code that the statement asks for is still known.
+    if (span.first >= span.last)
+        return place.sum ? "" : ComparedWith(facts_.request.SQLQuery, place.name).value_or("");
     const Value value = place.sum ? Value(Sum(place.name, span)) : rows_.Get(order_[span.first], column);
     if (value.IsText()) return value.Text();
     if (value.IsBool()) return value.Bool() ? "Yes" : "No";
+    if (value.IsDate() && place.month) {
+        const CalendarDate date = ToCalendar(value.Date());
+        return MonthName(date.month) + " " + std::to_string(date.year);
+    }
     if (value.IsDate()) return ShortDate(value.Date(), facts_.regional);
     if (value.IsNull()) return {};
     if (place.words) return words(value.Double());
@@ -356,7 +376,12 @@ std::string Table::FillPlace(const Template::Place& place, Span span, bool decim
 }
 
 std::string Table::Title() const {
-    if (const std::string title = Trim(Parameter(facts_, "Judul")); !title.empty()) return title;
+    // A request may give the period as Judul; a definition that takes it as its subtitle has a title instead.
+    const std::vector<std::string> below = definition_.subtitle.Names();
+    const bool period = std::any_of(below.begin(), below.end(),
+                                    [](const std::string& name) { return EqualsNoCase(name, "Judul"); });
+    if (const std::string title = Trim(Parameter(facts_, "Judul")); !period && !title.empty()) return title;
+    if (const std::string title = Fill(definition_.title, All()); period && !title.empty()) return title;
     if (const std::string title = Trim(facts_.request.ReportTitle); !title.empty()) return title;
     if (const std::string title = Fill(definition_.title, All()); !title.empty()) return title;
     return Trim(facts_.request.WindowTitle);

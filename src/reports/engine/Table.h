@@ -56,6 +56,11 @@ public:
     // As the request says; without one in the request, the balance after the last row.
     double Closing() const { return closing_; }
 
+    // Whether the rows themselves hold the balance, so that each innermost group opens and closes by itself.
+    bool BalancesGroups() const { return definition_.running && !definition_.running->balance.empty(); }
+    double OpeningOf(Span group) const;
+    double ClosingOf(Span group) const { return running_[group.last - 1]; }
+
     // The value and the text of a cell; a cell whose column is missing is empty.
     Value CellValue(const Slot& slot, std::uint32_t row) const;
     std::string CellText(const Slot& slot, std::uint32_t row) const;

@@ -22,7 +22,7 @@ Template::Template(std::string_view text) {
     };
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t open = text.find('{', at);
-        if (open != at) pieces_.push_back({std::string(text.substr(at, open - at)), {}});
+        if (open != at) pieces_.push_back({std::string(text.substr(at, open - at)), {}, {}});
         if (open == std::string_view::npos) break;
         const std::size_t close = text.find('}', open);
         if (close == std::string_view::npos) fail("lacks a closing brace");
@@ -30,11 +30,16 @@ Template::Template(std::string_view text) {
         for (const std::string& alternative : Split(text.substr(open + 1, close - open - 1), '|')) {
             Place place;
             place.name = Trim(alternative);
+            if (place.name.size() > 2 && place.name.front() == '\'' && place.name.back() == '\'') {
+                piece.instead = place.name.substr(1, place.name.size() - 2);
+                continue;
+            }
             if (const std::size_t colon = place.name.find(':'); colon != std::string::npos) {
                 place.mask = place.name.substr(colon + 1);
                 place.name = Trim(place.name.substr(0, colon));
             }
             place.words = TakePrefix(place.name, "words ");
+            place.month = TakePrefix(place.name, "month ");
             place.sum = TakePrefix(place.name, "sum ");
             place.given = TakePrefix(place.name, "given ");
             if (place.name.empty()) fail("has braces without a name");
@@ -49,13 +54,15 @@ std::string Template::Fill(const std::function<std::string(const Place&)>& fill)
     std::string result;
     for (const Piece& piece : pieces_) {
         result += piece.text;
+        std::string found = piece.instead;
         for (const Place& place : piece.places) {
             const std::string filled = fill(place);
             const bool nothing = place.given && (Trim(filled) == "0" || Trim(filled) == "-");
             if (filled.empty() || nothing) continue;
-            result += filled;
+            found = filled;
             break;
         }
+        result += found;
     }
     return Trim(result);
 }

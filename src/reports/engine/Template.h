@@ -4,8 +4,9 @@
 //   {Name:#,##0}   a number with this mask instead of the usual one
 //   {sum Name}     the sum of a column over the rows meant (group or whole report)
 //   {words X}      the amount X, one of the above, in words
+//   {month X}      the month of the date X with its year
 //   {given Name}   a column in which "0" and "-" stand for nothing (the cheque number of a cash voucher)
-//   {A|B}          the first of them that is not empty
+//   {A|B}          the first of them that is not empty; 'a text' in its place stands for itself
 // A place without a value comes out empty.
 
 #include "reports/engine/Rows.h"
@@ -28,6 +29,7 @@ public:
         std::string mask;
         bool sum = false;
         bool words = false;
+        bool month = false;
         bool given = false;
     };
     // `fill` gives the text of one place.
@@ -40,6 +42,7 @@ private:
     struct Piece {
         std::string text;
         std::vector<Place> places; // alternatives; empty for a plain text
+        std::string instead;       // when all of them are empty
     };
     std::vector<Piece> pieces_;
 };

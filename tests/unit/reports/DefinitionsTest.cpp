@@ -18,6 +18,17 @@ struct Case {
     std::string rows;
 };
 
+// Two cost types, a payment without one, and what a supplier was paid.
+const std::string CostRows =
+    R"(NoBKK|TglBKK@|Penerima|KodeBiaya|JumlahBiaya#|Diskripsi|KodeJenisBiaya|JenisBiaya
+000000000300|2026-11-30|PT Pabrik Semen|000000004100|2500000|SUPPLIER PAYMENT|999|PAYMENT
+000000000100|2026-11-02|Pak Tono|0000000001|150000.50|Gaji harian tukang|001|Gaji
+000000000400|2026-11-16|Pak Tono dan kawan-kawan|0000000001|150000|Gaji harian tukang|001|Gaji
+000000000500|2026-11-16|Ibu Rina|0000000003|75000|Lembur|001|Gaji
+000000000200|2026-11-05|PLN|0000000002|400000|Rekening listrik gudang|002|Listrik dan air
+000000000600|2026-11-17|Warung|0000000009|25000|Lain-lain||
+)";
+
 const std::vector<Case> Cases = {
     {"Invoice",
      "Invoice.rpt",
@@ -84,12 +95,67 @@ const std::vector<Case> Cases = {
 0000000002|Pasir beton|002|M3|17.5|200000|Bahan
 )"},
     {"persediaan-empty", "persediaan.rpt", {}, "KodeBrg|NamaBrg|JenisBrg|OnHand#"},
+    {"persediaan-uncategorised",
+     "persediaan.rpt",
+     {},
+     R"(KodeBrg|NamaBrg|JenisBrg|JenisProduk|Satuan|OnHand#|HargaBeli#|HargaJual#|KodeSup
+0000000002|Pasir beton|||M3|17.5|200000|250000|0000000001
+0000000001|Semen Portland 40 kg|002|Bahan|SAK|120|58000|65000|0000000001
+)"},
+    {"Persediaan2",
+     "Persediaan2.rpt",
+     {},
+     R"(KodeBrg|NamaBrg|JenisBrg|JenisProduk|SatuanJual|PecahanJual#|HargaSatuanJual#|Satuan|Pecahan#|HargaSatuan#|SatuanBeli|PecahanBeli#|HargaSatuanBeli#
+0000000003|Antar barang|001|Jasa||0|50000||0|0||0|0
+0000000001|Semen Portland 40 kg|002|Bahan|SAK|1|65000|SAK|1|65000|PALET|40|2600000
+0000000004|Turbin air 400 kW, dengan pemasangan dan pengujian|||UNIT|1|125000000000|UNIT|1|125000000000|SET|8|999999999999
+)"},
+    {"Stok",
+     "Stok.rpt",
+     {{"Judul", "Periode 01/11/2026 To 30/11/2026"}},
+     R"(ID#|Tanggal@|KodeBrg|Memo|NamaBrg|JenisBrg|Pecahan#|Qty1#|Qty2#|Saldo#|Masuk#
+1|2026-11-02|0000000001|Purchases No. 000000004100 Sup. PT Pabrik Semen|Semen Portland 40 kg|002|40|2|0|100|80
+2|2026-11-03|0000000002|Purchases No. 000000004100 Sup. PT Pabrik Semen|Pasir beton|002|1|2.5|0|2.5|2.5
+3|2026-11-05|0000000001|Sales Inv No. 000000012300 Cus. CV Bangun Persada|Semen Portland 40 kg|002|1|0|12|88|0
+4|2026-11-04|0000000001|Purchases return, torn bags|Semen Portland 40 kg|002|1|-3|0|85|-3
+5|2026-11-09|0000000001|Sales Returns No 000000000500|Semen Portland 40 kg|002|1|0|-6|91|0
+)"},
+    {"LapBKK1", "LapBKK1.rpt", {{"Judul", "Periode 01/11/2026 To 30/11/2026"}}, CostRows},
+    {"LapBKK2", "LapBKK2.rpt", {{"Judul", "Periode 01/11/2026 To 30/11/2026"}}, CostRows},
+    {"BukuBank",
+     "BukuBank.rpt",
+     {{"SaldoAkhir", "999,998,860,000"}},
+     R"(NamaBank|RekID|NoRek|Tanggal@|NoBukti|Debit#|Kredit#
+Bank Nusa|002|123-456|2026-11-22|RECEIPT CASH ID - 000000000700|1360000|0
+Bank Nusa|002|123-456|2026-11-30|RECEIPT CHEQ ID - 000000000800|999999999999|0
+Bank Nusa|002|123-456|2026-11-07|PAYMENT CHEQ ID-000000000300|0|2499999.50
+)"},
+    {"BukuPiutang",
+     "BukuPiutang.rpt",
+     {{"SaldoAwal", "250,000"}, {"SaldoAkhir", "862,500"}},
+     R"(KodeCus|NamaCus|NoJurnal|Tanggal@|NoBukti|Debit#|Kredit#
+0000000001|CV Bangun Persada||2026-11-02|Sales Invoice ID - 000000012300|1360000|0
+0000000001|CV Bangun Persada||2026-11-05|Receipt ID - 000000000700 Invoice ID- 000000012300|0|497500
+0000000001|CV Bangun Persada||2026-11-09|Sales Returns ID - 000000000500  For Indvoice ID000000012300|0|250000
+)"},
+    {"BukuPiutang-empty",
+     "BukuPiutang.rpt",
+     {{"SaldoAwal", "250,000"}, {"SaldoAkhir", "250,000"}},
+     "KodeCus|NamaCus|NoJurnal|Tanggal@|NoBukti|Debit#|Kredit#"},
+    {"BukuHutang",
+     "BukuHutang.rpt",
+     {{"SaldoAwal", "0"}, {"SaldoAkhir", "2,376,000"}},
+     R"(KodeSup|NamaSup|NoJurnal|Tanggal@|NoBukti|Debit#|Kredit#
+0000000001|PT Pabrik Semen||2026-11-02|Purchases ID-000000004100|5050000|0
+0000000001|PT Pabrik Semen||2026-11-30|Payment ID -000000000300|0|2500000
+0000000001|PT Pabrik Semen||2026-11-25|Purchases Returns ID-000000000700|0|174000
+)"},
     {"Customer",
      "Customer.rpt",
      {},
      R"(KodeCus|NamaCus|Alamat_1|Alamat_2|Alamat_3|Kota|Telp|SaldoAwal#|SaldoAkhir#
 0000000001|CV Bangun Persada|Jl. Asia Afrika 5|Blok C||Bandung|022 555 0101|0|1360000
-0000000002|Toko Sinar|Jl. Braga 9|||Bandung||250000|-12500
+0000000002|Toko Sinar|Jl. Braga 9|||Bandung||250000.50|-12500
 )"},
     {"Supplier",
      "Supplier.rpt",
