@@ -195,8 +195,13 @@ void MasterScreen::Print() {
 // Null when the code is not there, or when the statement fails.
 ado::Recordset* MasterScreen::LookUp(Lookup how, const std::string& code) {
     if (how == Lookup::Find) return FindInMain(code) ? &main_ : nullptr;
-    const bool opened = Resume([&] { look_.Open(std::string(row_.select) + Quoted(code), connection_); });
-    return opened && !look_.Eof() ? &look_ : nullptr;
+    bool met = false;
+    Resume([&] {
+        look_.Open(std::string(row_.select) + Quoted(code), connection_);
+        // A code with quotes in it may read as a condition that other rows meet.
+        met = !look_.Eof() && EqualsNoCase(TextOf(look_[row_.codeColumn]), ReplaceText(code, "''", "'"));
+    });
+    return met ? &look_ : nullptr;
 }
 
 bool MasterScreen::FindInMain(const std::string& code) {

@@ -9,10 +9,21 @@ namespace {
 constexpr int MaximumAttempts = 3;
 
 // Letters, digits, the full stop and the blank; the backspace never comes this way.
-void Filter(forms::KeyPress& press) {
-    const char32_t c = press.character;
+bool Taken(char32_t c) {
     const bool letter = (c >= U'A' && c <= U'Z') || (c >= U'a' && c <= U'z');
-    if (!letter && !(c >= U'0' && c <= U'9') && c != U'.' && c != U' ' && c != U'\b') press.Discard();
+    return letter || (c >= U'0' && c <= U'9') || c == U'.' || c == U' ';
+}
+
+void TakesPlainText(forms::TextBox& field) {
+    field.onKeyPress = [](forms::KeyPress& press) {
+        if (!Taken(press.character)) press.Discard();
+    };
+    // What the mouse drops there comes by no key. The name goes into a statement as it stands.
+    field.onChange = [&field] {
+        std::string text = field.Text();
+        std::erase_if(text, [](char c) { return !Taken(static_cast<unsigned char>(c)); });
+        field.SetText(std::move(text));
+    };
 }
 
 } // namespace
@@ -20,8 +31,8 @@ void Filter(forms::KeyPress& press) {
 fLogin::fLogin(Services& services)
     : ProgramScreen(services, "fLogin", "Varnik - Login"), connection_(services.data) {
     txtPassword.SetMasked(true);
-    txtUserId.onKeyPress = Filter;
-    txtPassword.onKeyPress = Filter;
+    TakesPlainText(txtUserId);
+    TakesPlainText(txtPassword);
     txtUserId.onKeyDown = [this](forms::Key& key) {
         if (!key.Is(forms::KeyCode::Enter)) return;
         key.handled = true;
