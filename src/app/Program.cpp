@@ -4,6 +4,7 @@
 #include "data/DataSource.h"
 #include "master/Master.h"
 #include "purchases/Purchases.h"
+#include "reports/Reports.h"
 #include "sales/Sales.h"
 #include "shell/Main.h"
 
@@ -19,6 +20,7 @@ Program::Program(Desktop& desktop, const Regional& machine)
     RegisterSales(services_);
     RegisterPurchases(services_);
     RegisterCashbook(services_);
+    RegisterReports(services_);
 }
 
 void Program::Start() { Main(services_); }

@@ -7,6 +7,7 @@
 #include "document/LookupList.h"
 #include "document/OrderLines.h"
 #include "platform/desktop/Failure.h"
+#include "platform/desktop/Hourglass.h"
 #include "platform/desktop/ProgramScreen.h"
 
 #include <initializer_list>
@@ -84,17 +85,7 @@ private:
     std::vector<std::vector<forms::Control*>> backwards_;
 };
 
-// The hourglass for as long as it lives.
-class Hourglass {
-public:
-    explicit Hourglass(Desktop& desktop) : desktop_(desktop) { desktop_.Hourglass(true); }
-    ~Hourglass() { desktop_.Hourglass(false); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-
-private:
-    Desktop& desktop_;
-};
+using varnik::Hourglass;
 
 // A button that is disabled while what it does is under way. The focus comes back to it: the next Enter
 // must not press its neighbour.

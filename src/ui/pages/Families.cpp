@@ -145,10 +145,25 @@ Page DialogPage(std::string screen, Node content, std::vector<std::string> butto
     return {std::move(screen), Family::Dialog, Column({std::move(content), Row(std::move(row))})};
 }
 
+Page ReportDialogPage(std::string screen, ReportDialogParts parts) {
+    std::vector<Node> cards;
+    if (!parts.kinds.empty()) {
+        std::vector<Node> kinds;
+        for (std::string& kind : parts.kinds) kinds.push_back(Button(std::move(kind)));
+        kinds.push_back(Spring());
+        cards.push_back(Card("Report", Inside(std::move(parts.kindsFrame), Column(std::move(kinds)))));
+    }
+    cards.push_back(Card("Choice", std::move(parts.choice)).Share(1));
+    Page page = DialogPage(std::move(screen), Row(std::move(cards)), {"OKButton", "CancelButton"});
+    page.family = Family::ReportDialog;
+    return page;
+}
+
 const std::vector<Page>& AllPages() {
     static const std::vector<Page> pages = [] {
         std::vector<Page> all;
-        for (auto* folder : {ShellPages, MasterPages, SalesPages, PurchasesPages, CashbookPages})
+        for (auto* folder :
+             {ShellPages, MasterPages, SalesPages, PurchasesPages, CashbookPages, ReportsPages})
             for (Page& page : folder()) all.push_back(std::move(page));
         return all;
     }();

@@ -137,6 +137,15 @@ Node AddressRest(std::string second);
 // Content above, the finishing buttons at the lower right, the first of them primary.
 Page DialogPage(std::string screen, Node content, std::vector<std::string> buttons);
 
+// What is reported at the left, a list of options in their frame ("" and none for a dialog of one report),
+// the choice at the right, Print and Cancel below.
+struct ReportDialogParts {
+    std::string kindsFrame;
+    std::vector<std::string> kinds;
+    Node choice;
+};
+Page ReportDialogPage(std::string screen, ReportDialogParts parts);
+
 // The search panel frmCari that masters and documents share.
 Overlay SearchPanelOver();
 
@@ -147,5 +156,6 @@ std::vector<Page> MasterPages();
 std::vector<Page> SalesPages();
 std::vector<Page> PurchasesPages();
 std::vector<Page> CashbookPages();
+std::vector<Page> ReportsPages();
 
 } // namespace varnik::ui

@@ -1,0 +1,7 @@
+#include "reports/Reports.h"
+
+namespace varnik {
+
+void RegisterReports(Services&) {}
+
+} // namespace varnik
