@@ -42,17 +42,17 @@ document::SearchLayout Search() {
         .choices = Choices,
         .columns = {{"Payment ID", Align::Left, 14},
                     {"Date", Align::Left, 11},
-                    {"Account", Align::Left, 8},
+                    {"Account", Align::Left, 10},
                     {"Cash or Bank", Align::Left, 18},
                     {"Account No", Align::Left, 14},
                     {"Cost Type", Align::Left, 16},
-                    {"Cost Description", Align::Left, 24},
+                    {"Cost", Align::Left, 24},
                     {"Amount", Align::Right, 13},
                     {"Paid To", Align::Left, 18},
                     {"Memo", Align::Left, 24},
                     {"Method", Align::Left, 9},
                     {"Cheque No", Align::Left, 12},
-                    {"Payment Total", Align::Right, 13}},
+                    {"Payment Total", Align::Right, 15}},
         .mask = "#,##0.#0",
         .offered = Offered};
 }
@@ -83,7 +83,7 @@ void OtherPayment::Load() {
     list(lines_.TxtJenisBiaya,
          "SELECT KodeJenisBiaya, JenisBiaya FROM  QryDaftarJenisBiaya Order By KodejenisBiaya ");
     list(lines_.TxtBiaya, "SELECT KodeBiaya, Diskripsi FROM  Biaya Order By KodeBiaya ");
-    lines_.FrameIsiBarang.SetVisible(false);
+    EntryEnded();
 }
 
 void OtherPayment::PreviewKeyDown(forms::Key& key) {
@@ -106,13 +106,18 @@ void OtherPayment::PreviewKeyDown(forms::Key& key) {
 // ---- The buttons ----
 
 void OtherPayment::StartNew() {
-    lines_.FrameIsiBarang.SetVisible(true);
+    lines_.FrameIsiBarang.SetEnabled(true);
     CashVoucher::StartNew();
 }
 
 void OtherPayment::StartDelete() {
     lines_.FrameIsiBarang.SetVisible(false);
     CashVoucher::StartDelete();
+}
+
+void OtherPayment::EntryEnded() {
+    lines_.FrameIsiBarang.SetVisible(true);
+    lines_.FrameIsiBarang.SetEnabled(false);
 }
 
 bool OtherPayment::TestsPassed() {

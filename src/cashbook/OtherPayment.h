@@ -28,7 +28,7 @@ private:
     bool TestsPassed() override;
     void Post() override { PostPayment(); }
     void Reverse() override;
-    void EntryEnded() override { lines_.FrameIsiBarang.SetVisible(false); }
+    void EntryEnded() override;
     void ClearVoucher() override;
     void LoadVoucher(const std::string& number) override { LoadPayment(number); }
 

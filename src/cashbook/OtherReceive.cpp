@@ -34,7 +34,7 @@ document::SearchLayout Search() {
                         {"Date", Align::Left, 11},
                         {"Memo", Align::Left, 34},
                         {"Amount", Align::Right, 14},
-                        {"Account", Align::Left, 8},
+                        {"Account", Align::Left, 10},
                         {"Cash Or Bank", Align::Left, 20},
                         {"Account No", Align::Left, 16},
                         {"Received From", Align::Left, 24}},

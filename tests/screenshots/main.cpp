@@ -60,6 +60,8 @@ public:
         Purchase();
         PurchaseReturn();
         Payment();
+        OtherReceipt();
+        OtherPayment();
     }
 
 private:
@@ -241,6 +243,47 @@ private:
         Click("BayarFaktur", "bttnAddLine");
         Both("BayarFaktur", "entry");
         Click("BayarFaktur", "bttnCancel");
+    }
+
+    void OtherReceipt() {
+        if (!Open("T08", "OtherReceive")) return;
+        Click("OtherReceive", "bttnNew");
+        Keys("OtherReceive", "TxtCaraBayar", "CHEQUE");
+        Keys("OtherReceive", "TxtRekening", "2");
+        Keys("OtherReceive", "TxtNamaPenerima", "Ibu Sari");
+        Keys("OtherReceive", "TxtMemo", "Rent of the shelf beside the door, November");
+        Keys("OtherReceive", "TxtNoCek", "CQ-0117");
+        Keys("OtherReceive", "TxtJumlah", "1250000.50");
+        Press("OtherReceive", Qt::Key_Return);
+        Both("OtherReceive", "entry");
+        Click("OtherReceive", "bttnSave");
+        Click("OtherReceive", "bttnPrint");
+        Preview("OtherReceive-print");
+        Click("OtherReceive", "bttnFind");
+        Click("OtherReceive", "cmdExecute");
+        Both("OtherReceive", "search");
+    }
+
+    void OtherPayment() {
+        if (!Open("T09", "OtherPayment")) return;
+        Click("OtherPayment", "bttnNew");
+        Keys("OtherPayment", "TxtCaraBayar", "CASH");
+        Keys("OtherPayment", "TxtRekening", "1");
+        Keys("OtherPayment", "TxtNamaPenerima", "Pak Udin");
+        for (const auto& [cost, amount] : {std::pair{"0000000001", "300000"}, {"0000000002", "87500"}}) {
+            Keys("OtherPayment", "TxtBiaya", cost);
+            Keys("OtherPayment", "TxtJumlah", amount);
+            if (cost[9] == '1') Click("OtherPayment", "bttnAddLine"); // the second stays on the entry line
+        }
+        Both("OtherPayment", "entry");
+        Click("OtherPayment", "bttnAddLine");
+        Click("OtherPayment", "bttnSave");
+        Both("OtherPayment", "saved");
+        Click("OtherPayment", "bttnPrint");
+        Preview("OtherPayment-print");
+        Click("OtherPayment", "bttnFind");
+        Click("OtherPayment", "cmdExecute");
+        Both("OtherPayment", "search");
     }
 
     ui::ScreenWindow* Window(const std::string& screen) { return desktop_.WindowOf(screen); }

@@ -20,17 +20,6 @@ protected:
             "QGudang,OnHand,OnOrder,KodeSup,KodeRef,Ket) VALUES ('A1','Semen',False,'001',0,0,0,0,0,0,1,"
             "'SAK',40,'PALET',50000,1,'SAK',60000,0,0,0,0,'','','')");
     }
-    void Press(const std::string& screen, Qt::Key key, Qt::KeyboardModifier with = Qt::NoModifier) {
-        QTest::keyClick(desktop.WindowOf(screen)->focusWidget(), key, with);
-    }
-    void EnterUpTo(const std::string& screen, const char* field) {
-        for (int step = 0; step < 14 && Focused(screen) != field; ++step) Press(screen, Qt::Key_Return);
-        ASSERT_EQ(Focused(screen), field);
-    }
-    void TypeThere(const std::string& screen, const char* field, const char* text) {
-        EnterUpTo(screen, field);
-        QTest::keyClicks(desktop.WindowOf(screen)->focusWidget(), QString::fromUtf8(text));
-    }
 };
 
 TEST_F(Purchase, IsEnteredAndPaidByKeyboardAlone) {

@@ -23,11 +23,7 @@ protected:
                 "'PACK',24,'CARTON',42000,1,'PACK',55000,0,10,10,0,'','','')");
         Open("T01");
     }
-    void EnterUpTo(const char* field) {
-        for (int step = 0; step < 12 && Focused("Invoice") != field; ++step)
-            QTest::keyClick(desktop.WindowOf("Invoice")->focusWidget(), Qt::Key_Return);
-        ASSERT_EQ(Focused("Invoice"), field);
-    }
+    void EnterUpTo(const char* field) { ShopTest::EnterUpTo("Invoice", field); }
 };
 
 TEST_F(Sale, IsEnteredByKeyboardAlone) {

@@ -48,6 +48,18 @@ protected:
         QTest::keyClicks(widget, QString::fromUtf8(text));
         if (then != Qt::Key(0)) QTest::keyClick(widget, then);
     }
+    void Press(const std::string& screen, Qt::Key key, Qt::KeyboardModifier with = Qt::NoModifier) {
+        QTest::keyClick(desktop.WindowOf(screen)->focusWidget(), key, with);
+    }
+    // Enter from field to field, as far as this one.
+    void EnterUpTo(const std::string& screen, const char* field) {
+        for (int step = 0; step < 14 && Focused(screen) != field; ++step) Press(screen, Qt::Key_Return);
+        ASSERT_EQ(Focused(screen), field);
+    }
+    void TypeThere(const std::string& screen, const char* field, const char* text) {
+        EnterUpTo(screen, field);
+        QTest::keyClicks(desktop.WindowOf(screen)->focusWidget(), QString::fromUtf8(text));
+    }
     void Click(const std::string& screen, const char* name) {
         QTest::mouseClick(Find(screen, name), Qt::LeftButton);
     }

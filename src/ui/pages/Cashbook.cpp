@@ -10,9 +10,9 @@ Node Voucher() {
     return Card("", Form({{Field("txtNoBukti", 15)},
                           {Field("txtTglJurnal", 15)},
                           {Field("TxtCaraBayar", 15)},
-                          {Field("TxtRekening", 44)},
-                          {Field("TxtNamaPenerima")},
-                          {Field("TxtMemo")}}))
+                          {Field("TxtRekening", 50).Share(1)},
+                          {Field("TxtNamaPenerima", 50).Share(1)},
+                          {Field("TxtMemo", 50).Share(1)}}))
         .Share(1);
 }
 

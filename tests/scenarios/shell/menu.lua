@@ -54,6 +54,16 @@ open "F01"
 expect(screens(), {"frmMainCode", "fProduk"})
 expect(current(), "fProduk")
 
+scenario "Every leaf of masters and documents opens its screen"
+for _, key in ipairs(all) do
+    if key:match "^[FT]%d" then
+        use "frmMainCode"
+        open(key)
+        expect({key, message()}, {key, nil})
+    end
+end
+expect(#screens(), 17)
+
 scenario "The drop-down menus"
 use "frmMainCode"
 menu "mnuViewStatusBar"
