@@ -1,5 +1,7 @@
 #include "ui/ElasticLayout.h"
 
+#include "ui/Binding.h"
+
 #include <QFrame>
 #include <QHeaderView>
 #include <QLabel>
@@ -55,9 +57,24 @@ void ElasticLayout::Collect(QWidget& container) {
     }
 }
 
-void ElasticLayout::Capture(QWidget& window) {
-    const ElasticSize size{window.height(), window.width()};
+void ElasticLayout::Capture(QWidget& window, QSize room) {
     Collect(window);
+    ElasticSize size{window.height(), window.width()};
+    const double share =
+        std::min({1.0, double(room.width()) / size.width, double(room.height()) / size.height});
+    if (share < 1) {
+        // The page shrinks as a whole, and counts as captured then: a screen never goes below its load.
+        window.setMinimumSize(0, 0);
+        for (const QPointer<QWidget>& widget : widgets_) SetLook(widget, "dense", true);
+        const auto less = [share](std::int16_t length) { return static_cast<std::int16_t>(length * share); };
+        std::vector<ElasticControl> places = shown_;
+        for (ElasticControl& place : places)
+            place = {place.kind,        less(place.top),      less(place.left), less(place.height),
+                     less(place.width), less(place.fontSize), place.rightMargin};
+        Place(places);
+        size = {static_cast<int>(size.height * share), static_cast<int>(size.width * share)};
+        window.resize(size.width, size.height);
+    }
     elastic_.Init(size, shown_);
     captured_ = true;
     window.setMinimumSize((size.width + 1) / 2, (size.height + 1) / 2);
@@ -65,9 +82,12 @@ void ElasticLayout::Capture(QWidget& window) {
 
 void ElasticLayout::Apply(QWidget& window) {
     if (!captured_) return;
-    const std::vector<ElasticControl> places =
-        elastic_.FormResize(elastic_.Clamp(ElasticSize{window.height(), window.width()}));
     window.setUpdatesEnabled(false);
+    Place(elastic_.FormResize(elastic_.Clamp(ElasticSize{window.height(), window.width()})));
+    window.setUpdatesEnabled(true);
+}
+
+void ElasticLayout::Place(const std::vector<ElasticControl>& places) {
     for (std::size_t i = 0; i < widgets_.size() && i < places.size(); ++i) {
         QWidget* widget = widgets_[i];
         if (!widget || places[i] == shown_[i]) continue;
@@ -87,7 +107,6 @@ void ElasticLayout::Apply(QWidget& window) {
         }
         shown_[i] = place;
     }
-    window.setUpdatesEnabled(true);
 }
 
 } // namespace varnik::ui

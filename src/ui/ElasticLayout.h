@@ -12,14 +12,16 @@ namespace varnik::ui {
 
 class ElasticLayout {
 public:
-    // Takes the places of everything within the window as they stand, hidden widgets included.
-    void Capture(QWidget& window);
+    // Takes the places of everything within the window as they stand, hidden widgets included; shrunk in
+    // proportion where the window is larger than the room that the display has for it.
+    void Capture(QWidget& window, QSize room);
     bool Captured() const { return captured_; }
     // Gives everything the place it has at the window's present size.
     void Apply(QWidget& window);
 
 private:
     void Collect(QWidget& container);
+    void Place(const std::vector<ElasticControl>& places);
 
     class_Elastic elastic_;
     std::vector<QPointer<QWidget>> widgets_;

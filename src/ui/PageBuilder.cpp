@@ -266,6 +266,8 @@ PageBuilder::Piece PageBuilder::MakeForm(const Node& node) {
     }
     // Captions and fields keep together at the left; what is left over goes to the last fields.
     grid->setColumnStretch(2 * columns - 1, 1);
+    // Rows keep together at the top, in line with those of a taller card beside them.
+    grid->setRowStretch(static_cast<int>(node.rows.size()), 1);
     return {nullptr, grid};
 }
 

@@ -58,7 +58,7 @@ void ScreenWindow::Open(bool modal) {
     if (page_) builder.PlaceOverlays(*page_);
     for (QObject* child : children())
         if (auto* frame = qobject_cast<QWidget*>(child); frame && IsContainer(*frame)) SettleLayouts(*frame);
-    elastic_.Capture(*this);
+    elastic_.Capture(*this, Room());
     lastSize_ = size();
     binder_->onOverlayShown = [this](varnik::ui::Binding& binding) { ShowOverlay(binding); };
     if (const QScreen* display = screen()) {
@@ -68,6 +68,13 @@ void ScreenWindow::Open(bool modal) {
     show();
     activateWindow();
     binder_->SyncFocus();
+}
+
+// Of the display, without the frame and title bar that the desktop puts round a window.
+QSize ScreenWindow::Room() const {
+    constexpr int frame = 8, titleBar = 30;
+    const QScreen* display = screen();
+    return display ? display->availableGeometry().size() - QSize(frame, titleBar) : size();
 }
 
 // A list opens under the field that it was asked for; a panel comes to the front.
@@ -97,6 +104,10 @@ void ScreenWindow::resizeEvent(QResizeEvent* event) {
     if (!elastic_.Captured() || size() == lastSize_) return;
     lastSize_ = size();
     elastic_.Apply(*this);
+    if (page_)
+        for (const Overlay& overlay : page_->overlays)
+            if (varnik::ui::Binding* open = binder_->Find(overlay.control); open && open->Control().IsShown())
+                ShowOverlay(*open);
     screen_->Act([this] { screen_->Resized(); });
 }
 

@@ -35,7 +35,7 @@ protected:
     bool focusNextPrevChild(bool) override { return false; } // Tab is the screen's
 
 private:
-    void Arrange(const Page* page);
+    QSize Room() const;
     void ShowOverlay(varnik::ui::Binding& binding);
 
     std::unique_ptr<forms::Screen> screen_;

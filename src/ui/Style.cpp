@@ -71,6 +71,10 @@ QPushButton[primary="true"]:hover { background: @accentDeep; }
 QPushButton[primary="true"]:focus { border: 2px solid @text; }
 QPushButton[primary="true"]:disabled { background: transparent; color: @faded; border-color: @fadedBorder; }
 
+QLineEdit[dense="true"], QComboBox[dense="true"], QDateEdit[dense="true"] { padding: 0 3px; }
+QPushButton[dense="true"] { padding: 0 5px; }
+QTableView[dense="true"] QHeaderView::section { padding: 1px 4px; }
+
 QCheckBox, QRadioButton { spacing: 7px; background: transparent; padding: 3px 2px; border: 1px solid transparent; border-radius: 4px; }
 QCheckBox:focus, QRadioButton:focus { border: 1px solid @accent; }
 QCheckBox::indicator, QRadioButton::indicator { width: 15px; height: 15px; border: 1px solid @quietText; background: @card; }

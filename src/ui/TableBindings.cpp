@@ -47,11 +47,13 @@ public:
         renewal_.stop();
         // A list that opens again shows its rows as they come.
         if (std::exchange(closed_, false)) view_->ForgetOrder();
-        model_.Renew();
+        const bool renewed = model_.Renew();
         if (model_.Narrowed().isEmpty()) view_->ShowNarrowed({});
         if (captions_ != Captions()) {
             captions_ = Captions();
             view_->Spread();
+        } else if (renewed) {
+            view_->SpreadAnew();
         }
         ShowCurrent();
     }

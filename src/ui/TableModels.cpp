@@ -10,15 +10,15 @@
 
 namespace varnik::ui {
 
-void TableModel::Renew() {
+bool TableModel::Renew() {
     const int rows = CountRows();
     const int columns = static_cast<int>(Columns().size());
-    if (rows == rows_ && columns == columns_ && Contents() == contents_) return;
+    if (rows == rows_ && columns == columns_ && Contents() == contents_) return false;
     contents_ = Contents();
     if (!Arranged() && rows == rows_ && columns == columns_) {
         if (rows > 0 && columns > 0) emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
         if (columns > 0) emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
-        return;
+        return true;
     }
     if (!Arranged() && columns == columns_ &&
         rows == rows_ + 1) { // a line was added: the view keeps its place
@@ -26,7 +26,7 @@ void TableModel::Renew() {
         rows_ = rows;
         endInsertRows();
         emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
-        return;
+        return true;
     }
     beginResetModel();
     rows_ = rows;
@@ -35,6 +35,7 @@ void TableModel::Renew() {
     narrowed_.clear(); // what was looked for was another list's
     Arrange();
     endResetModel();
+    return true;
 }
 
 int TableModel::rowCount(const QModelIndex& parent) const {

@@ -18,8 +18,8 @@ class TableModel : public QAbstractTableModel {
 public:
     explicit TableModel(const Regional& regional) : regional_(regional) {}
 
-    // Takes in what the control holds now. Nothing when it is what it was.
-    void Renew();
+    // Takes in what the control holds now; false when it is what it was.
+    bool Renew();
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : columns_; }

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 
 namespace varnik::ui {
@@ -68,6 +69,8 @@ TableWidget::TableWidget(QWidget* parent) : QTableView(parent), note_(new QLabel
     horizontalHeader()->setMinimumSectionSize(24);
     horizontalHeader()->setTextElideMode(Qt::ElideRight);
     horizontalHeader()->setSortIndicatorClearable(true); // the third click
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this] { widthsByHand_ = widthsByHand_ || (!spreading_ && isVisible()); });
     note_->setProperty("note", true);
     note_->hide();
 }
@@ -104,41 +107,66 @@ void TableWidget::PlaceNote() {
     note_->raise();
 }
 
+// What a column needs for its heading and the rows above, which is what a person sees of it first.
+int TableWidget::NeededWidth(int column, int heading) const {
+    constexpr int rowsLookedAt = 40, padding = 18;
+    int needed = heading;
+    const int rows = std::min(rowsLookedAt, model()->rowCount());
+    for (int row = 0; row < rows; ++row) {
+        const QString text = model()->index(row, column).data().toString();
+        needed = std::max(needed, fontMetrics().horizontalAdvance(text) + padding);
+    }
+    return needed;
+}
+
 void TableWidget::Spread() {
     const TableModel* renewed = Model();
     if (!renewed || renewed->columnCount() == 0) return;
+    const QScopedValueRollback<bool> own(spreading_, true);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
     const auto& columns = renewed->Columns();
     const int unit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    constexpr int headingPadding = 20, cellPadding = 20;
     int sum = 0;
     int widest = columns.size() > 1 ? 1 : 0; // of equals the second: the name behind a code
-    std::vector<int> widths;
+    std::vector<int> widths, headings;
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        const int heading =
-            horizontalHeader()->fontMetrics().horizontalAdvance(ToQt(columns[i].caption)) + 18;
+        headings.push_back(horizontalHeader()->fontMetrics().horizontalAdvance(ToQt(columns[i].caption)) +
+                           headingPadding);
         // A column of width 0 is there for the screen alone.
-        widths.push_back(columns[i].width == 0 ? 0 : std::max(columns[i].width * unit + 20, heading));
+        widths.push_back(
+            columns[i].width == 0 ? 0 : std::max(columns[i].width * unit + cellPadding, headings[i]));
         sum += widths.back();
         if (columns[i].width > columns[static_cast<std::size_t>(widest)].width) widest = static_cast<int>(i);
     }
-    // The widest column takes what is left. Where room is short the others give up a little first, then
-    // it gives up to half of its own, then the table scrolls.
-    constexpr double least = 0.85;
-    int& wide = widths[static_cast<std::size_t>(widest)];
-    const int room = viewport()->width(), others = sum - wide;
-    if (sum > room && others > 0) {
-        const double share = std::clamp(double(room - wide) / others, least, 1.0);
-        for (int& width : widths)
-            if (&width != &wide) width = static_cast<int>(width * share);
-        sum = wide;
-        for (const int& width : widths)
-            if (&width != &wide) sum += width;
+    // The widest column takes what is left. Where room is short the others give up, in equal parts, what
+    // their headings and contents do not need; then it gives up to half of its own, then the table scrolls.
+    const auto wide = static_cast<std::size_t>(widest);
+    const int room = viewport()->width();
+    if (sum > room) {
+        std::vector<int> spare(widths.size(), 0);
+        int spared = 0;
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            if (i == wide || widths[i] == 0) continue;
+            spare[i] = std::max(0, widths[i] - NeededWidth(static_cast<int>(i), headings[i]));
+            spared += spare[i];
+        }
+        const int give = std::min(spared, sum - room);
+        for (std::size_t i = 0; i < widths.size() && spared > 0; ++i) {
+            const int part = (spare[i] * give + spared - 1) / spared;
+            widths[i] -= part;
+            sum -= part;
+        }
     }
-    wide = std::max(wide + room - sum, wide / 2);
+    widths[wide] = std::max(widths[wide] + room - sum, std::max(widths[wide] / 2, headings[wide]));
     for (int i = 0; i < static_cast<int>(widths.size()); ++i) {
         setColumnHidden(i, widths[static_cast<std::size_t>(i)] == 0);
         horizontalHeader()->resizeSection(i, widths[static_cast<std::size_t>(i)]);
     }
+}
+
+void TableWidget::SpreadAnew() {
+    if (!widthsByHand_) Spread();
 }
 
 void TableWidget::resizeEvent(QResizeEvent* event) {

@@ -16,7 +16,8 @@ public:
 
     void Take(TableModel& model);
     TableModel* Model() const;
-    void Spread(); // gives the columns their widths
+    void Spread();     // gives the columns their widths
+    void SpreadAnew(); // as the rows are others, unless a person has set the widths
     // Back to the rows as the control has them.
     void ForgetOrder();
     // Names what the list is narrowed to; nothing for an empty text.
@@ -27,8 +28,11 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    int NeededWidth(int column, int heading) const;
     void PlaceNote();
+
     QLabel* note_;
+    bool spreading_ = false, widthsByHand_ = false;
 };
 
 } // namespace varnik::ui

@@ -1,14 +1,22 @@
 // What must hold for every screen of the program, whatever it is for.
 
+#include "sales/Bayar.h"
+#include "shell/Dialog.h"
+#include "shell/fLogin.h"
 #include "tests/ui/Shop.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QHeaderView>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTableView>
+#include <algorithm>
+#include <functional>
 
 namespace varnik::test {
 namespace {
@@ -38,9 +46,9 @@ void ExpectControlsAndWidgetsMatch(ui::ScreenWindow& window) {
         if (fallbackFrame) continue;
         EXPECT_FALSE(widget->size().isEmpty()) << screen << "." << control->Name() << " has no room";
         EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()))
-            << screen << "." << control->Name() << " stands outside";
-        const bool named = !control->CanFocus() || !widget->accessibleName().isEmpty();
-        EXPECT_TRUE(named) << screen << "." << control->Name() << " has no name";
+            << screen << "." << control->Name() << " stands outside: " << widget->geometry().right() << " "
+            << widget->geometry().bottom() << " of " << widget->parentWidget()->width() << " "
+            << widget->parentWidget()->height();
     }
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         const bool part =
@@ -51,56 +59,135 @@ void ExpectControlsAndWidgetsMatch(ui::ScreenWindow& window) {
     }
 }
 
-void ExpectNoCaptionClipped(ui::ScreenWindow& window) {
+// A caption, a heading or a date that does not fit, a widget that covers its neighbour.
+void ExpectNothingClipped(ui::ScreenWindow& window) {
+    const std::string at = window.Screen().Name() + " at " + std::to_string(window.width()) + ": ";
+    const int slack = 2; // places are whole numbers
     for (QWidget* widget : window.findChildren<QWidget*>()) {
-        const bool caption = qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget);
-        if (!caption || widget->window() != &window || widget->isHidden() ||
+        const std::string name = at + widget->objectName().toStdString();
+        if (widget->window() != &window || widget->isHidden() ||
             widget->parentWidget()->property("statusbar").toBool())
             continue;
-        if (widget->metaObject()->className() != std::string("QLabel") && widget->objectName().isEmpty())
+        if (const auto* table = qobject_cast<QTableView*>(widget)) {
+            const QHeaderView& header = *table->horizontalHeader();
+            for (int column = 0; column < header.count(); ++column) {
+                const QString text = table->model()->headerData(column, Qt::Horizontal).toString();
+                if (header.isSectionHidden(column)) continue;
+                EXPECT_GE(header.sectionSize(column), header.fontMetrics().horizontalAdvance(text) + 16)
+                    << name << " " << text.toStdString();
+            }
+        }
+        if (const auto* date = qobject_cast<QDateEdit*>(widget)) {
+            EXPECT_GE(date->width(), date->fontMetrics().horizontalAdvance(date->text()) + 30) << name;
+        }
+        const bool caption = qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget);
+        if (!caption ||
+            (widget->metaObject()->className() != std::string("QLabel") && widget->objectName().isEmpty()))
             continue;
-        const int slack = 2; // places are whole numbers
-        EXPECT_GE(widget->width() + slack, widget->minimumSizeHint().width())
-            << window.Screen().Name() << "." << widget->objectName().toStdString() << " at "
-            << window.width();
-        EXPECT_GE(widget->height() + slack, widget->fontMetrics().height())
-            << window.Screen().Name() << "." << widget->objectName().toStdString();
+        EXPECT_GE(widget->width() + slack, widget->minimumSizeHint().width()) << name;
+        EXPECT_GE(widget->height() + slack, widget->fontMetrics().height()) << name;
+    }
+    const auto& controls = window.Screen().Controls();
+    for (auto one = controls.begin(); one != controls.end(); ++one)
+        for (auto other = one + 1; other != controls.end(); ++other) {
+            const QWidget* a = window.Binding().WidgetOf((*one)->Name());
+            const QWidget* b = window.Binding().WidgetOf((*other)->Name());
+            if (!a || !b || a->isHidden() || b->isHidden() || a->parentWidget() != b->parentWidget())
+                continue;
+            const QRect shared = a->geometry().intersected(b->geometry());
+            EXPECT_TRUE(shared.width() <= slack || shared.height() <= slack)
+                << at << (*one)->Name() << " and " << (*other)->Name();
+        }
+}
+
+// What assistive tools say of the control.
+void ExpectNamed(const ui::ScreenWindow& window) {
+    for (const forms::Control* control : window.Screen().Controls()) {
+        QWidget* widget = window.Binding().WidgetOf(control->Name());
+        const forms::Kind kind = control->GetKind();
+        // A label that stands for its field, or is empty so far, is heard by that.
+        if (!widget || kind == forms::Kind::Frame || kind == forms::Kind::Label) continue;
+        QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_TRUE(heard) << control->Name();
+        EXPECT_FALSE(heard->text(QAccessible::Name).isEmpty())
+            << window.Screen().Name() << "." << control->Name() << " has no name";
     }
 }
 
-class Screens : public ShopTest {};
-
-TEST_F(Screens, EveryOneHasItsControlsPlacedNamedAndUnclipped) {
-    std::vector<ui::ScreenWindow*> windows{desktop.WindowOf("frmMainCode")};
-    for (const auto& [key, entry] : program.Access().screens) windows.push_back(&Open(key));
-    EXPECT_GT(windows.size(), 1U);
-    for (ui::ScreenWindow* window : windows) {
-        ExpectControlsAndWidgetsMatch(*window);
-        ExpectNoCaptionClipped(*window);
-        window->resize(window->size() * 1.3);
-        QApplication::processEvents();
-        ExpectNoCaptionClipped(*window);
+class Screens : public ShopTest {
+protected:
+    // Every screen that the menus open, and those that others open.
+    void ForEach(const std::function<void(ui::ScreenWindow&)>& look) {
+        look(*desktop.WindowOf("frmMainCode"));
+        std::size_t seen = 0;
+        for (const auto& [key, entry] : program.Access().screens) {
+            ui::ScreenWindow& window = Open(key);
+            look(window);
+            window.Screen().Close();
+            ++seen;
+        }
+        EXPECT_GT(seen, 1U);
+        std::unique_ptr<forms::Screen> others[] = {std::make_unique<Bayar>(program.Access(), ""),
+                                                   std::make_unique<fLogin>(program.Access()),
+                                                   std::make_unique<Dialog>(program.Access())};
+        for (auto& screen : others) {
+            ui::ScreenWindow* window = nullptr;
+            forms::Screen& shown = *screen;
+            desktop.Show(std::move(screen));
+            ASSERT_TRUE(
+                Until([&] { return (window = desktop.WindowOf(shown)) && window->isActiveWindow(); }));
+            look(*window);
+            shown.Close();
+        }
     }
+};
+
+TEST_F(Screens, EveryOneHasItsControlsPlacedAndNamed) {
+    ForEach([](ui::ScreenWindow& window) {
+        ExpectControlsAndWidgetsMatch(window);
+        ExpectNamed(window);
+    });
 }
 
-// Tab walks through what can take the focus and comes back to where it began; the focus shows where it is.
-TEST_F(Screens, TabGoesRoundEveryOne) {
-    for (const auto& [key, entry] : program.Access().screens) {
-        ui::ScreenWindow& window = Open(key);
-        const forms::Control* first = window.Screen().Focused();
-        if (!first) continue; // nothing to enter
-        std::size_t steps = 0;
+// Also run on small and on dense displays, see CMakeLists.txt.
+TEST_F(Screens, EveryOneFitsTheDisplayAndClipsNothingAtAnySize) {
+    constexpr QSize smallDisplay(1366 - 8, 768 - 30); // less the window's frame and title bar
+    ForEach([&](ui::ScreenWindow& window) {
+        const QSize room = window.screen()->availableGeometry().size().boundedTo(smallDisplay);
+        EXPECT_EQ(window.size().boundedTo(room), window.size())
+            << window.Screen().Name() << " " << window.width() << " x " << window.height();
+        const QSize size = window.size();
+        for (const double growth : {1.0, 0.8, 1.3, 1.7}) {
+            window.resize(size * growth);
+            QApplication::processEvents();
+            ExpectNothingClipped(window);
+        }
+    });
+}
+
+// Tab walks once through all that a person can use, in the order of entry, and comes back to where it
+// began; the focus shows where it is.
+TEST_F(Screens, TabWalksEveryOneInTheOrderOfEntry) {
+    ForEach([](ui::ScreenWindow& window) {
+        forms::Screen& screen = window.Screen();
+        std::vector<std::string> order, walked;
+        for (const forms::Control* control : screen.Controls())
+            if (control->CanFocus() && control->TabStop()) order.push_back(control->Name());
+        const forms::Control* first = screen.Focused();
+        if (order.empty()) return;
+        ASSERT_TRUE(first) << screen.Name();
         do {
-            ASSERT_TRUE(window.focusWidget()) << entry.name;
+            walked.push_back(screen.Focused()->Name());
+            ASSERT_TRUE(window.focusWidget()) << screen.Name();
             QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
-            const forms::Control* focused = window.Screen().Focused();
-            ASSERT_TRUE(focused) << entry.name;
+            const forms::Control* focused = screen.Focused();
+            ASSERT_TRUE(focused) << screen.Name();
             EXPECT_EQ(window.Binding().Find(*focused)->FocusTarget(), window.focusWidget())
-                << entry.name << "." << focused->Name();
-        } while (window.Screen().Focused() != first && ++steps < 100);
-        EXPECT_EQ(window.Screen().Focused(), first) << entry.name;
-        window.close();
-    }
+                << screen.Name() << "." << focused->Name();
+        } while (screen.Focused() != first && walked.size() < 100);
+        std::ranges::rotate(walked, std::ranges::find(walked, order.front()));
+        EXPECT_EQ(walked, order) << screen.Name();
+    });
 }
 
 TEST_F(Screens, ClosingTheMainWindowEndsTheProgram) {

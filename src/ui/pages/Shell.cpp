@@ -21,7 +21,7 @@ Page Main() {
                 Heading("Varnik Ledger Suite").Title().Centred(),
                 Heading("Choose a screen in the menu: arrow keys and Enter, or a click").Quiet().Centred(),
                 Spring()}));
-    Node body = Row({Table("TV", 22).Label("Menu"), std::move(welcome).Share(2)}).Share(1).Padded();
+    Node body = Row({Table("TV", 20).Label("Menu"), std::move(welcome).Share(2)}).Share(1).Padded();
     return {"frmMainCode", Family::Main,
             Column({std::move(bar), std::move(body), Field("sbStatusBar").Label("Status")})};
 }
@@ -36,7 +36,7 @@ Page Users() {
          Spring()});
     return {"fuser", Family::Master,
             Column({std::move(tools),
-                    Row({std::move(user), Card("Access", Table("grdCari", 22).Label("Access")).Share(1)})
+                    Row({std::move(user), Card("Access", Table("grdCari", 17).Label("Access")).Share(1)})
                         .Share(1)})};
 }
 
