@@ -46,3 +46,23 @@ function differences(before, after)
     table.sort(found)
     return found
 end
+
+-- The rows of the lines below the headings, each as a list of its first cells.
+function lines(columns)
+    local all = {}
+    for i = 1, rows "OrderGrid" do
+        all[i] = {}
+        for column = 0, columns - 1 do all[i][column + 1] = cell("OrderGrid", i, column) end
+    end
+    return all
+end
+
+-- What the open search panel finds by a criterion, as the texts of one column.
+function found(criterion, what, column)
+    enter("txtKreteria", criterion)
+    enter("txtValue", what)
+    click "cmdExecute"
+    local texts = {}
+    for i = 1, rows "grdCari" do texts[i] = cell("grdCari", i, column) end
+    return texts
+end

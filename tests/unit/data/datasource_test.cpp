@@ -13,9 +13,19 @@ TEST(DataSource, IsWrittenAsTheDriverManagerReadsIt) {
     TemporaryShop shop;
     const registry::Registry written(shop.folder.Path() / "registry.ini");
     EXPECT_EQ(written.QueryText(Source, "DBQ"), PathText(shop.folder.Path() / "Data" / "Varnik.mdb"));
-    EXPECT_EQ(written.Query(Source, "DriverId"), registry::Data{25u});
-    EXPECT_EQ(written.QueryText(Source, "FIL"), "MS Access;");
-    EXPECT_EQ(written.Query(Source + "\\Engines\\Jet", "MaxBufferSize"), registry::Data{2048u});
+    const std::string engine = Source + "\\Engines\\Jet";
+    for (const auto& [key, name, value] :
+         std::initializer_list<std::tuple<std::string, std::string, registry::Data>>{
+             {Source, "UID", ""},
+             {Source, "FIL", "MS Access;"},
+             {Source, "DriverId", 25u},
+             {Source, "SafeTransactions", 0u},
+             {engine, "ImplicitCommitSync", ""},
+             {engine, "UserCommitSync", "Yes"},
+             {engine, "MaxBufferSize", 2048u},
+             {engine, "PageTimeout", 5u},
+             {engine, "Threads", 3u}})
+        EXPECT_EQ(written.Query(key, name), value) << name;
     EXPECT_EQ(written.QueryText("SOFTWARE\\ODBC\\ODBC.INI\\ODBC Data Sources", "Varnik"),
               "Microsoft Access Driver (*.mdb)");
     EXPECT_EQ(written.QueryText(Source, "Driver"), written.QueryText(Driver, "Driver"));

@@ -4,6 +4,8 @@
 #include "shell/fuser.h"
 #include "tests/support/TemporaryShop.h"
 
+#include <gmock/gmock.h>
+
 #include <csignal>
 #include <fstream>
 
@@ -162,6 +164,8 @@ TEST_F(BackupTest, AFullDiskOrAClosedFolderLeavesTheOldBackup) {
         told = told && BackUp(screen, backup)
                            .starts_with("Reading the database \"Varnik.mdb\" or writing "
                                         "the file \"shop.bck\" failed: ");
+        const fs::path fresh = shop.folder.Path() / "fresh.bck";
+        told = told && BackUp(screen, fresh).find(" failed: ") != std::string::npos && !fs::exists(fresh);
         told = told && (geteuid() != 0 || seteuid(65534) == 0);
         told = told && BackUp(screen, folder / "shop.bck") ==
                            "The file \"shop.bck\" cannot be written: Permission denied.";
@@ -201,6 +205,11 @@ TEST_F(BackupTest, ADamagedDatabaseIsReplaced) {
         std::string damaged = Bytes(database);
         damaged.replace(headToo ? 0 : 8192, 30000, 30000, 'x');
         std::ofstream(database, std::ios::binary) << damaged;
+        // A backup of it would be none: the check tells, and no file stands under the name.
+        const fs::path unsound = shop.folder.Path() / "unsound.bck";
+        EXPECT_THAT(BackUp(screen, unsound), testing::AnyOf(testing::HasSubstr("is damaged"),
+                                                            testing::HasSubstr("is not a database")));
+        EXPECT_FALSE(fs::exists(unsound));
         EXPECT_EQ(Restore(screen, backup), "Database has been fully restored!!");
         EXPECT_EQ(ado::CheckDatabase(database), "");
         EXPECT_EQ(shop.Table("Select UserID From T_User"), "varnik");

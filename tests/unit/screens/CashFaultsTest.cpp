@@ -3,19 +3,15 @@
 
 #include "cashbook/OtherPayment.h"
 #include "cashbook/OtherReceive.h"
-#include "tests/support/TemporaryShop.h"
+#include "tests/support/ClerkTest.h"
 
 namespace varnik {
 namespace {
 
 // One account with 1000, one receipt of 250 into it, one payment of 300 and 150 out of it.
-class CashFaults : public testing::Test {
+class CashFaults : public ClerkTest {
 public:
     CashFaults() {
-        shop.session.NoUser = "00";
-        shop.session.RightTambah = shop.session.RightHapus = true;
-        shop.session.DateMask = "mm/dd/yyyy";
-        shop.session.PaymentMethod = {"", "CASH", "CHEQUE", "BG"};
         shop.Execute("INSERT INTO Bank (RekID,NamaBank,NoRek,SaldoAwal,SaldoAkhir,DefaultKas) "
                      "VALUES ('1','Cash','',0,1000,True)");
         shop.Execute("INSERT INTO JenisBiaya (KodeJenisBiaya,JenisBiaya) VALUES ('001','Wages')");
@@ -24,31 +20,19 @@ public:
                          std::string(cost) + "','Wages','001')");
     }
 
-    template <typename Opened>
-    void Open(const char* name) {
-        shop.desktop.Show(std::make_unique<Opened>(shop.services));
-        screen = shop.desktop.FindScreen(name);
-    }
-    void Fill(const char* name, const char* text) {
-        auto& field = dynamic_cast<forms::TextControl&>(*screen->FindControl(name));
-        screen->MoveFocus(field);
-        field.Type(text);
-        screen->MoveNext();
-    }
-    void Click(const char* name) { screen->Click(*screen->FindControl(name)); }
     void NewVoucher() {
         Click("bttnNew");
         Fill("TxtCaraBayar", "CASH");
         Fill("TxtRekening", "1");
     }
     void Receive() {
-        Open<OtherReceive>("OtherReceive");
+        Open(std::make_unique<OtherReceive>(shop.services));
         NewVoucher();
         Fill("TxtJumlah", "250");
         Click("bttnSave");
     }
     void Pay() {
-        Open<OtherPayment>("OtherPayment");
+        Open(std::make_unique<OtherPayment>(shop.services));
         NewVoucher();
         for (const auto& [cost, amount] : {std::pair{"A", "300"}, {"B", "150"}}) {
             Fill("TxtBiaya", cost);
@@ -67,9 +51,6 @@ public:
         return shop.Table("Select SaldoAkhir From Bank") + "; " + shop.Table("Select Jumlah From BKM") +
                "; " + shop.Table("Select JumlahBiaya From BKK Order By JumlahBiaya");
     }
-
-    TemporaryShop shop;
-    forms::Screen* screen = nullptr;
 };
 
 struct Fault {

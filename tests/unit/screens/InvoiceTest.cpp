@@ -3,26 +3,22 @@
 
 #include "sales/Invoice.h"
 #include "platform/forms/Controls.h"
-#include "tests/support/TemporaryShop.h"
+#include "tests/support/ClerkTest.h"
 
 namespace varnik {
 namespace {
 
 // A shop with one product in two lots, one service and one customer.
-class InvoiceFaults : public testing::Test {
+class InvoiceFaults : public ClerkTest {
 protected:
     InvoiceFaults() {
-        shop.session.NoUser = "00";
-        shop.session.RightTambah = shop.session.RightHapus = true;
-        shop.session.DateMask = "mm/dd/yyyy";
         shop.Execute("INSERT INTO Customer (KodeCus,NamaCus,nDIS,nwDis,nJTP,SaldoAkhir,SaldoAwal) "
                      "VALUES ('C1','Toko Maju',0,0,0,0,0)");
         Product("B1", "False");
         Product("J1", "True");
         Purchase("P1", 10, 1000);
         Purchase("P2", 30, 3600);
-        shop.desktop.Show(std::make_unique<Invoice>(shop.services));
-        screen = shop.desktop.FindScreen("Invoice");
+        Open(std::make_unique<Invoice>(shop.services));
     }
 
     void Product(const std::string& code, const std::string& service) {
@@ -43,17 +39,6 @@ protected:
                      number + "',#11/01/2026#,'B1',0,0,1," + pieces + ",0,0," + pieces + ")");
     }
 
-    template <typename T>
-    T& Control(const char* name) {
-        return dynamic_cast<T&>(*screen->FindControl(name));
-    }
-    void Fill(const char* name, const char* text) {
-        auto& field = Control<forms::TextControl>(name);
-        screen->MoveFocus(field);
-        field.Type(text);
-        screen->MoveNext();
-    }
-    void Click(const char* name) { screen->Click(Control<forms::Button>(name)); }
     void Line(const char* code, const char* quantity) {
         if (auto& frame = Control<forms::Frame>("FrameIsiBarang"); !frame.IsShown())
             screen->PressKey({.code = forms::KeyCode::Enter});
@@ -84,9 +69,6 @@ protected:
             books += shop.Table(statement) + "\n--\n";
         return books;
     }
-
-    TemporaryShop shop;
-    forms::Screen* screen = nullptr;
 };
 
 struct Fault {

@@ -7,19 +7,15 @@
 #include "sales/Bayar.h"
 #include "sales/BayarInvoice.h"
 #include "sales/InvoiceRetur.h"
-#include "tests/support/TemporaryShop.h"
+#include "tests/support/ClerkTest.h"
 
 namespace varnik {
 namespace {
 
 // One invoice of 500 over five pieces out of two lots, one customer, one account.
-class ReceiptFaults : public testing::Test {
+class ReceiptFaults : public ClerkTest {
 public:
     ReceiptFaults() {
-        shop.session.NoUser = "00";
-        shop.session.RightTambah = shop.session.RightHapus = true;
-        shop.session.DateMask = "mm/dd/yyyy";
-        shop.session.PaymentMethod = {"", "CASH", "CHEQUE", "BG"};
         shop.Execute("INSERT INTO Customer (KodeCus,NamaCus,nDIS,nwDis,nJTP,SaldoAkhir,SaldoAwal) "
                      "VALUES ('C1','Toko Maju',0,0,0,500,0)");
         shop.Execute("INSERT INTO Bank (RekID,NamaBank,NoRek,SaldoAwal,SaldoAkhir,DefaultKas) "
@@ -45,20 +41,6 @@ public:
                          number + ",'B1'," + drawn + ",60)");
         }
     }
-
-    template <typename Opened>
-    void Open(std::unique_ptr<Opened> opened) {
-        const std::string name = opened->Name();
-        shop.desktop.Show(std::move(opened));
-        screen = shop.desktop.FindScreen(name);
-    }
-    void Fill(const char* name, const char* text) {
-        auto& field = dynamic_cast<forms::TextControl&>(*screen->FindControl(name));
-        screen->MoveFocus(field);
-        field.Type(text);
-        screen->MoveNext();
-    }
-    void Click(const char* name) { screen->Click(*screen->FindControl(name)); }
 
     void Pay() { Click("bttnSave"); }
     void Receive() {
@@ -91,9 +73,6 @@ public:
             books += shop.Table(statement) + "\n--\n";
         return books;
     }
-
-    TemporaryShop shop;
-    forms::Screen* screen = nullptr;
 };
 
 struct Fault {
