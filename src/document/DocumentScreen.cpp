@@ -41,19 +41,30 @@ void DocumentScreen::Unload() { connection_.Close(); }
 void DocumentScreen::Save() {
     if (Browsing()) return;
     if (Mode() == EntryMode::New && !TestsPassed()) return;
-    {
-        const Resting resting(*this, bttnSave);
-        if (Mode() == EntryMode::New)
-            Post();
-        else if (ReverseConfirmed()) {
-            Reverse();
-            bttnSave.SetCaption("&Save");
-        }
-        ado::SyncWritten();
+    const auto end = [this] {
+        SetMode(EntryMode::Browsing);
+        EntryEnded();
+        ShowBrowseFrame();
+    };
+    // However the writing went, the entry is over: a second Save would write what stands a second time.
+    try {
+        Write();
+    } catch (...) {
+        end();
+        throw;
     }
-    SetMode(EntryMode::Browsing);
-    EntryEnded();
-    ShowBrowseFrame();
+    end();
+}
+
+void DocumentScreen::Write() {
+    const Resting resting(*this, bttnSave);
+    if (Mode() == EntryMode::New)
+        Post();
+    else if (ReverseConfirmed()) {
+        Reverse();
+        bttnSave.SetCaption("&Save");
+    }
+    ado::SyncWritten();
 }
 
 void DocumentScreen::ShowEntryFrame() {

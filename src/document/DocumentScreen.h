@@ -79,6 +79,7 @@ protected:
 
 private:
     void Save();
+    void Write();
 
     ado::Connection connection_;
     EntryMode entryMode_ = EntryMode::Browsing;

@@ -27,6 +27,10 @@ int Watch(sqlite3* database, const char**, const void*) {
     return sqlite3_trace_v2(database, SQLITE_TRACE_PROFILE, Finished, nullptr);
 }
 
+int CarryOver(sqlite3* database, const char**, const void*) {
+    return sqlite3_wal_autocheckpoint(database, 1);
+}
+
 class Query {
 public:
     Query(sqlite3* database, const std::string& sql) : database_(database) {
@@ -105,6 +109,16 @@ std::string Differences(const Books& a, const Books& b) {
         if (other == b.end() || other->second != print) names += (names.empty() ? "" : ", ") + name;
     }
     return names;
+}
+
+void CarryOverAlways() { sqlite3_auto_extension(reinterpret_cast<void (*)()>(CarryOver)); }
+
+void LeaveTheLog(const std::filesystem::path& database) {
+    sqlite3* opened = nullptr;
+    sqlite3_open_v2(database.c_str(), &opened, SQLITE_OPEN_READWRITE, "unix");
+    const int code = sqlite3_exec(opened, "PRAGMA journal_mode=DELETE", nullptr, nullptr, nullptr);
+    sqlite3_close(opened);
+    if (code != SQLITE_OK) throw std::runtime_error("the log stays");
 }
 
 void WatchWrites(std::function<void()> wrote) {

@@ -37,5 +37,9 @@ std::string Differences(const Books& a, const Books& b);
 // From now on `wrote` is called after every statement of this process that wrote to a database, once it
 // stands.
 void WatchWrites(std::function<void()> wrote);
+// The log of every connection of this process is carried over into the database after each commit.
+void CarryOverAlways();
+// A database that had a log gets on without.
+void LeaveTheLog(const std::filesystem::path& database);
 
 } // namespace varnik::soak

@@ -9,7 +9,7 @@ namespace {
 
 using namespace varnik::soak;
 
-const std::map<std::string, long (*)(Soak&)> Soaks = {{"kill", Kill}};
+const std::map<std::string, long (*)(Soak&)> Soaks = {{"kill", Kill}, {"faults", Faults}};
 
 int Usage() {
     std::cerr

@@ -89,5 +89,6 @@ void Tell(int out, const std::string& line);
 std::string PlayApart(const Play& play, const std::filesystem::path& folder);
 
 long Kill(Soak& soak);
+long Faults(Soak& soak);
 
 } // namespace varnik::soak
