@@ -27,6 +27,8 @@ constexpr Posting Postings[] = {
     {"purchase", Shape::Described},   {"purchase_deleted", Shape::Resumed},
     {"send_back", Shape::Described},  {"send_back_deleted", Shape::Described},
     {"payment", Shape::Reported},     {"payment_deleted", Shape::Reported},
+    {"income", Shape::Guarded},       {"income_deleted", Shape::Guarded},
+    {"expense", Shape::Guarded},      {"expense_deleted", Shape::Guarded},
 };
 
 struct Trouble {

@@ -9,7 +9,8 @@ namespace {
 
 using namespace varnik::soak;
 
-const std::map<std::string, long (*)(Soak&)> Soaks = {{"kill", Kill}, {"faults", Faults}};
+const std::map<std::string, long (*)(Soak&)> Soaks = {
+    {"kill", Kill}, {"faults", Faults}, {"workstations", Workstations}};
 
 int Usage() {
     std::cerr

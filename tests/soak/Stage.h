@@ -90,5 +90,6 @@ std::string PlayApart(const Play& play, const std::filesystem::path& folder);
 
 long Kill(Soak& soak);
 long Faults(Soak& soak);
+long Workstations(Soak& soak);
 
 } // namespace varnik::soak

@@ -55,7 +55,13 @@ Control* Screen::FindControl(std::string_view name) const {
 void Screen::Close() {
     if (closed_) return;
     closed_ = true;
-    Raise([this] { Unload(); });
+    // A screen whose unloading fails goes all the same, and then says why: nobody could close it any more.
+    try {
+        Raise([this] { Unload(); });
+    } catch (...) {
+        if (onCloseRequest) onCloseRequest();
+        throw;
+    }
     if (onCloseRequest) onCloseRequest();
 }
 

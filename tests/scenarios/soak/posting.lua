@@ -26,6 +26,10 @@ local postings = {
     send_back = {{a_purchase}, send_back},
     send_back_deleted = {{a_purchase, send_back}, function() Post.send_back_deleted(first) end},
     payment = {{a_purchase}, payment},
+    income = {{}, function() Post.income "700" end},
+    income_deleted = {{function() Post.income "700" end}, function() Post.income_deleted(first) end},
+    expense = {{}, function() Post.expense{{Costs[1], "40"}, {Costs[2], "2"}} end},
+    expense_deleted = {{function() Post.expense{{Costs[1], "40"}} end}, function() Post.expense_deleted(first) end},
     payment_deleted = {{a_purchase, payment}, function() Post.payment_deleted(first) end},
 }
 local before, post = table.unpack(postings[arg[1]])

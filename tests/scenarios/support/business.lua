@@ -3,7 +3,7 @@
 -- write are announced before and after, so that whoever watches knows what is under way.
 dofile(arg[0]:match ".*/" .. "../support/purchases.lua")
 
-Goods, Buyers, Sellers = {}, {}, {}
+Goods, Buyers, Sellers, Costs = {}, {}, {}, {"0000000001", "0000000002"}
 for i = 1, 6 do Goods[i] = ("%010d"):format(i) end
 for i = 1, 3 do Buyers[i], Sellers[i] = ("C%09d"):format(i), ("S%d"):format(i) end
 local Service = Goods[#Goods]
@@ -22,6 +22,10 @@ function open_shop()
     for _, code in ipairs(Sellers) do supplier{KodeSup = code} end
     account{RekID = "1", NamaBank = "Cash", DefaultKas = true}
     account{RekID = "901", NamaBank = "Bank Nusa"}
+    account{RekID = "2", NamaBank = "Petty Cash"}
+    account{RekID = "3", NamaBank = "Bank Dua"}
+    insert("JenisBiaya", {KodeJenisBiaya = "001", JenisBiaya = "Running"})
+    for i, code in ipairs(Costs) do insert("Biaya", {KodeBiaya = code, Diskripsi = "Cost " .. i, KodeJenisBiaya = "001"}) end
 end
 
 -- ---- What writes is announced ----
@@ -49,9 +53,10 @@ local function document(what, screen, enter_it, ...)
     return result
 end
 
-Screens = {Invoice = "T01", BayarInvoice = "T02", InvoiceRetur = "T03", Faktur = "T04", BayarFaktur = "T05", FakturRetur = "T06"}
+Screens = {Invoice = "T01", BayarInvoice = "T02", InvoiceRetur = "T03", Faktur = "T04", BayarFaktur = "T05", FakturRetur = "T06",
+           OtherReceive = "T08", OtherPayment = "T09"}
 function open_screens()
-    for _, key in ipairs{"T01", "T02", "T03", "T04", "T05", "T06"} do open(key) end
+    for _, key in ipairs{"T01", "T02", "T03", "T04", "T05", "T06", "T08", "T09"} do open(key) end
 end
 
 -- ---- Documents: lines are {code, quantity, price}, quantities as texts ----
@@ -163,10 +168,49 @@ end
 
 function Post.payment_deleted(number) return document("payment_deleted", "BayarFaktur", delete_voucher, number) end
 
+function Post.income(amount)
+    return document("income", "OtherReceive", function()
+        click "bttnNew"
+        local number = text "txtNoBukti"
+        choose("TxtCaraBayar", "CASH")
+        enter("TxtRekening", "3")
+        enter("TxtJumlah", amount)
+        click "bttnSave"
+        return number
+    end)
+end
+
+-- Costs are {code, amount}.
+function Post.expense(costs)
+    return document("expense", "OtherPayment", function()
+        click "bttnNew"
+        local number = text "txtNoBukti"
+        choose("TxtCaraBayar", "CASH")
+        enter("TxtRekening", "2")
+        for _, each in ipairs(costs) do
+            enter("TxtBiaya", each[1])
+            enter("TxtJumlah", each[2])
+            click "bttnAddLine"
+        end
+        click "bttnSave"
+        return number
+    end)
+end
+
+local function delete_cash_voucher(number)
+    click "bttnDel"
+    enter("txtNoBukti", number)
+    click "bttnSave"
+end
+function Post.income_deleted(number) return document("income_deleted", "OtherReceive", delete_cash_voucher, number) end
+-- Of an expense of one cost: of more, the others would stay.
+function Post.expense_deleted(number) return document("expense_deleted", "OtherPayment", delete_cash_voucher, number) end
+
 -- ---- A day by chance: what stands is remembered, so that what is taken back is there ----
 
 local chance = math.random
-local standing = {sale = {}, receipt = {}, take_back = {}, purchase = {}, send_back = {}, payment = {}}
+local standing = {sale = {}, receipt = {}, take_back = {}, purchase = {}, send_back = {}, payment = {},
+                  income = {}, expense = {}}
 
 local function some_lines(prices)
     local lines, used = {}, {}
@@ -218,13 +262,19 @@ function Kinds.receipt() upon("receipt", "sale", function(each) return Post.rece
 function Kinds.take_back() upon("take_back", "sale", function(each) return Post.take_back(each.number, less(each)) end) end
 function Kinds.payment() upon("payment", "purchase", function(each) return Post.payment{each.number} end) end
 function Kinds.send_back() upon("send_back", "purchase", function(each) return Post.send_back(each.number, less(each)) end) end
+function Kinds.income() stands("income", {number = Post.income(tostring(chance(1, 900)))}) end
+function Kinds.expense()
+    local costs = {}
+    for i = 1, chance(1, 2) do costs[i] = {Costs[i], tostring(chance(1, 50))} end
+    stands("expense", {number = Post.expense(costs), touched = #costs > 1})
+end
 function Kinds.deletion()
-    local kinds = {"sale", "receipt", "take_back", "purchase", "send_back", "payment"}
+    local kinds = {"sale", "receipt", "take_back", "purchase", "send_back", "payment", "income", "expense"}
     local kind = kinds[chance(1, #kinds)]
     local gone = take(kind, untouched)
     if gone then Post[kind .. "_deleted"](gone.number) else Kinds[kind]() end
 end
 
 local Weighted = {"purchase", "purchase", "purchase", "sale", "sale", "sale", "sale", "receipt", "take_back", "payment",
-                  "send_back", "deletion", "deletion"}
+                  "send_back", "income", "expense", "deletion", "deletion"}
 function one_more() Kinds[Weighted[chance(1, #Weighted)]]() end

@@ -102,6 +102,23 @@ TEST(Failure, UnmetOnesShowInACriticalBox) {
     EXPECT_EQ(desktop.boxes[0].icon, Icon::Critical);
 }
 
+TEST(Failure, AScreenThatFailsToUnloadIsClosedAllTheSame) {
+    struct Stubborn : forms::Screen {
+        Stubborn() : Screen("Stubborn", "") {
+            bttnClose.onClick = [this] { Close(); };
+        }
+        void Unload() override { throw ado::DataError(ado::EngineFault, "The disk is gone."); }
+        forms::Button bttnClose{*this, "bttnClose"};
+    };
+    TestDesktop desktop;
+    desktop.Show(std::make_unique<Stubborn>());
+    forms::Screen& screen = *desktop.FindScreen("Stubborn");
+    ReportFailures(screen, desktop);
+    screen.Click(*screen.FindControl("bttnClose"));
+    EXPECT_EQ(desktop.Message(), "The disk is gone.");
+    EXPECT_EQ(desktop.FindScreen("Stubborn"), nullptr);
+}
+
 TEST(Report, TitleFormulasStandAsTheTextsAre) {
     ReportRequest request;
     request.SetTitles(15, "Toko Jaya", "Jl. O'Hara", "", "x");
