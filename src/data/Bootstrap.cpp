@@ -6,6 +6,7 @@
 #include "data/Queries.h"
 #include "data/Schema.h"
 
+#include <algorithm>
 #include <chrono>
 #include <random>
 
@@ -139,21 +140,45 @@ bool CreateDatabaseCatalog(const Services& services) {
 }
 
 std::string WhatIsMissing(const ado::Environment& environment, const std::filesystem::path& file) {
+    ado::Connection connection(environment, FileConnection(file));
+    const std::vector<std::string> stored = ado::StoredNames(connection);
+    const auto holds = [](const std::vector<std::string>& names, std::string_view wanted) {
+        return std::ranges::any_of(names, [&](const auto& name) { return EqualsNoCase(name, wanted); });
+    };
     try {
-        ado::Connection connection(environment, FileConnection(file));
-        for (const jet::Table& table : Tables())
-            ado::Recordset("SELECT * FROM " + std::string(table.name) + " Where 1 = 0", connection,
-                           ado::CursorType::Static);
-        return "";
+        for (const jet::Table& table : Tables()) {
+            const std::string name(table.name);
+            const ado::Recordset rows("SELECT * FROM " + name + " Where 1 = 0", connection,
+                                      ado::CursorType::Static);
+            std::vector<std::string> columns;
+            for (int i = 0; i < rows.FieldCount(); ++i) columns.push_back(rows.FieldName(i));
+            for (const jet::Column& column : table.columns)
+                if (!holds(columns, column.name))
+                    return "The table " + name + " has no column \"" + std::string(column.name) + "\".";
+        }
     } catch (const ado::DataError& failure) {
+        if (failure.Number() != ado::UnknownTable) throw;
         return failure.Description();
     }
+    // Without a key two workstations would give the same number to two documents.
+    for (const auto& keys : {PrimaryIndexes(), UniqueKeys()})
+        for (const ado::Index& key : keys)
+            if (!holds(stored, std::string(key.table) + "." + std::string(key.name)))
+                return "The table " + std::string(key.table) + " has no key \"" + std::string(key.name) +
+                       "\".";
+    for (const StoredQuery& query : StoredQueries())
+        if (!holds(stored, query.name)) return "There is no stored query named \"" + query.name + "\".";
+    return "";
 }
 
 std::string CheckShopDatabase(const ado::Environment& environment, const std::filesystem::path& file) {
-    const std::string fault = WhatIsMissing(environment, file);
-    if (fault.empty()) return "";
-    return "\"" + PathText(file) + "\" is not a database of this program: " + fault;
+    const std::string name = "\"" + PathText(file) + "\"";
+    try {
+        const std::string missing = WhatIsMissing(environment, file);
+        return missing.empty() ? "" : name + " is not a database of this program: " + missing;
+    } catch (const ado::DataError& failure) {
+        return name + " cannot be used: " + failure.Description();
+    }
 }
 
 void BootstrapDatabase(Services& services) {

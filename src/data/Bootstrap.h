@@ -21,7 +21,9 @@ void BootstrapDatabase(Services& services);
 
 // Nothing when the file is a database of this program, else what is wrong with it in plain English.
 std::string CheckShopDatabase(const ado::Environment& environment, const std::filesystem::path& file);
-// The same without the name of the file.
+// What of the tables, columns, keys and stored queries of this program a database lacks, the first of it; ""
+// when it is whole. Look-up indexes may be missing: without them it is slow. DataError when it cannot be
+// read.
 std::string WhatIsMissing(const ado::Environment& environment, const std::filesystem::path& file);
 
 } // namespace varnik::data

@@ -10,7 +10,7 @@ namespace {
 using namespace varnik::soak;
 
 const std::map<std::string, long (*)(Soak&)> Soaks = {
-    {"kill", Kill}, {"faults", Faults}, {"workstations", Workstations}};
+    {"kill", Kill}, {"faults", Faults}, {"workstations", Workstations}, {"files", Files}};
 
 int Usage() {
     std::cerr

@@ -91,5 +91,6 @@ std::string PlayApart(const Play& play, const std::filesystem::path& folder);
 long Kill(Soak& soak);
 long Faults(Soak& soak);
 long Workstations(Soak& soak);
+long Files(Soak& soak);
 
 } // namespace varnik::soak

@@ -188,6 +188,8 @@ void CreateDatabase(const std::filesystem::path& file);
 // Creates one table with its column rules and the keys given for it. Keys keep their names in the file.
 void CreateTable(Connection& connection, const jet::Table& table);
 void CreateIndex(Connection& connection, const Index& index);
+// Names of what stands beside the tables: stored queries, and keys as "Table.Key".
+std::vector<std::string> StoredNames(Connection& connection);
 // Text in the engine's own dialect: stored queries, look-up indexes.
 void ExecuteNative(Connection& connection, std::string_view sql);
 // Copies the whole database, from a live one too, to a new file; checks the copy before it returns.

@@ -53,8 +53,19 @@ void SyncFolder([[maybe_unused]] const std::filesystem::path& file) {
 #endif
 }
 
-void RequireSound(const std::filesystem::path& file) {
-    const std::string complaint = CheckDatabase(file);
+// What is wrong with a file, or with its copy, in the file's own name.
+std::string Complaint(const std::filesystem::path& file, const std::filesystem::path& copy) {
+    try {
+        const std::string found = Explained(file, NoCatalog, [&] { return CheckEngineFile(copy); });
+        if (found.empty()) return {};
+        return "The database \"" + file.filename().string() + "\" is damaged: " + found;
+    } catch (const DataError& error) {
+        return error.Description();
+    }
+}
+
+void RequireSound(const std::filesystem::path& file, const std::filesystem::path& copy) {
+    const std::string complaint = Complaint(file, copy);
     if (!complaint.empty()) throw DataError(EngineFault, complaint);
 }
 
@@ -93,7 +104,7 @@ void CopyDatabase(const std::filesystem::path& from, const std::filesystem::path
                                              ".");
         throw Explain(error, from, NoCatalog);
     }
-    RequireSound(copy.File());
+    RequireSound(from, copy.File());
     ReleaseSessions(to);
     RemoveLogs(to); // those of a file that is replaced would be taken for the new one's
     std::filesystem::rename(copy.File(), to, failure);
@@ -103,20 +114,12 @@ void CopyDatabase(const std::filesystem::path& from, const std::filesystem::path
 }
 
 void RestoreDatabase(const std::filesystem::path& from, const std::filesystem::path& to) {
-    RequireSound(from);
+    RequireSound(from, from);
     Explained(to, NoCatalog, [&] { CopyEngineFile(from, to, true); });
     ReleaseSessions(to);
     NoteForeignWrite(to);
 }
 
-std::string CheckDatabase(const std::filesystem::path& file) {
-    try {
-        const std::string found = Explained(file, NoCatalog, [&] { return CheckEngineFile(file); });
-        if (found.empty()) return {};
-        return "The database \"" + file.filename().string() + "\" is damaged: " + found;
-    } catch (const DataError& error) {
-        return error.Description();
-    }
-}
+std::string CheckDatabase(const std::filesystem::path& file) { return Complaint(file, file); }
 
 } // namespace varnik::ado

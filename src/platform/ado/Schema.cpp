@@ -71,6 +71,17 @@ void CreateIndex(Connection& connection, const Index& index) {
     }
 }
 
+std::vector<std::string> StoredNames(Connection& connection) {
+    Session& session = connection.Implementation().Open();
+    return session.Guard([&] {
+        const std::unique_ptr<EngineStatement> list =
+            session.Native().Compile("SELECT name FROM sqlite_master WHERE type IN ('view', 'index')");
+        std::vector<std::string> names;
+        for (Value name; list->Step(); names.push_back(name.Text())) list->Read(0, name);
+        return names;
+    });
+}
+
 void ExecuteNative(Connection& connection, std::string_view sql) {
     Session& session = connection.Implementation().Open();
     session.Guard([&] { session.RunNative(sql); });

@@ -104,11 +104,33 @@ TEST(Bootstrap, WhatIsNoDatabaseOfThisProgramIsNamedAndLeftAlone) {
     const auto text = [](std::string content) {
         return [content](const std::filesystem::path& file) { std::ofstream(file) << content; };
     };
-    const std::pair<const char*, std::function<void(const std::filesystem::path&)>> cases[] = {
-        {"foreign", foreign},
-        {"text", text("a shopping list of some length, no database")},
-        {"empty", text("")}};
-    for (const auto& [name, make] : cases) {
+    const auto lacking = [](const std::string& statement) { // a shop's own, from which something is taken
+        return [statement](const std::filesystem::path& file) {
+            TemporaryShop whole;
+            {
+                ado::Connection connection = whole.Connect();
+                ado::ExecuteNative(connection, statement);
+            }
+            ado::CopyDatabase(data::DatabaseFile(whole.folder.Path()), file);
+            ado::Connection(whole.environment, "Data Source = " + file.string()).Close(); // it has had a log
+            ado::ReleaseDatabase(file);
+        };
+    };
+    const std::string other = "is not a database of this program: ", useless = "cannot be used: ";
+    const struct {
+        const char* name;
+        std::function<void(const std::filesystem::path&)> make;
+        std::string told;
+    } cases[] = {
+        {"foreign", foreign, other},
+        {"text", text("a shopping list of some length, no database"), useless},
+        {"empty", text(""), useless},
+        {"no table", lacking("DROP TABLE Bank"), other + "There is no table or query named \"Bank\"."},
+        {"no column", lacking("ALTER TABLE Company DROP COLUMN Ket3"),
+         other + "The table Company has no column \"Ket3\"."},
+        {"no key", lacking("DROP INDEX \"Invoice.NoTO\""), other + "The table Invoice has no key \"NoTO\"."},
+        {"no query", lacking("DROP VIEW QryBKM"), other + "There is no stored query named \"QryBKM\"."}};
+    for (const auto& [name, make, told] : cases) {
         EmptyShop shop;
         const auto file = shop.folder.Path() / "Data" / "Varnik.mdb";
         std::filesystem::create_directories(file.parent_path());
@@ -118,8 +140,7 @@ TEST(Bootstrap, WhatIsNoDatabaseOfThisProgramIsNamedAndLeftAlone) {
             data::BootstrapDatabase(shop.services);
             ADD_FAILURE() << name;
         } catch (const ado::DataError& error) {
-            EXPECT_NE(error.Description().find("Varnik.mdb\" is not a database of this program"),
-                      std::string::npos)
+            EXPECT_NE(error.Description().find("Varnik.mdb\" " + told), std::string::npos)
                 << error.Description();
         }
         EXPECT_EQ(ReadFile(file), before) << name;
