@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <numeric>
 #include <sstream>
 
 namespace varnik::soak {
@@ -70,7 +71,6 @@ struct Case {
     }
 };
 struct Point {
-    std::size_t of; // the case
     std::size_t operation;
     Way way;
 };
@@ -309,38 +309,38 @@ long Faults(Soak& soak) {
         PlayApart({soak.options.scripts / "day.lua", {"1", "0", "first"}}, soak.Folder("shop"));
     if (!soak.Holds(failed.empty(), "the shop cannot be opened: " + failed)) return 1;
     std::vector<Case> cases = Cases();
-    // Cases come by chance, and so do the points of each; a round is one point.
-    std::vector<Point> points;
+    std::vector<std::vector<Point>> left(cases.size()); // by case, once it is walked
+    std::vector<std::size_t> open(cases.size());        // cases that have points left, or are not walked yet
+    std::iota(open.begin(), open.end(), 0);
     std::map<std::string, long> tried;
-    long all = 0, struck = 0;
-    std::vector<std::size_t> left(cases.size());
-    for (std::size_t i = 0; i < left.size(); ++i) left[i] = i;
-    while (soak.GoesOn()) {
-        if (points.empty()) {
-            if (left.empty()) break; // everything was tried
-            const auto at = left.begin() + soak.Chance(static_cast<long>(left.size()));
-            const std::size_t next = *at;
-            left.erase(at);
-            PrepareShop(soak, cases[next]);
-            cases[next].trail = Walk(soak, cases[next]);
-            for (std::size_t operation = 0; operation < cases[next].trail.before.size(); ++operation)
-                for (const Way way : Ways) points.push_back({next, operation, way});
+    long all = 0, struck = 0, walked = 0;
+    while (!open.empty() && soak.GoesOn()) {
+        const auto at = open.begin() + soak.Chance(static_cast<long>(open.size()));
+        Case& each = cases[*at];
+        std::vector<Point>& points = left[*at];
+        if (each.trail.states.empty()) {
+            PrepareShop(soak, each);
+            each.trail = Walk(soak, each);
+            for (std::size_t operation = 0; operation < each.trail.before.size(); ++operation)
+                for (const Way way : Ways) points.push_back({operation, way});
             all += static_cast<long>(points.size());
-            if (points.empty()) continue;
+            ++walked;
         }
-        const auto at = points.begin() + soak.Chance(static_cast<long>(points.size()));
-        const Point point = *at;
-        points.erase(at);
-        const Case& each = cases[point.of];
-        const auto folder = soak.Copy(ShopOf(each), "struck");
-        const Outcome outcome = Disturb(soak, each, point, folder);
-        Judge(soak, each, point, outcome, BookReader(Database(folder)).Integrity());
-        ++tried[each.trouble->name];
-        if (outcome.struck) ++struck;
-        if (!soak.options.until) points.clear(); // a short slice sees many cases
+        if (!points.empty()) {
+            std::swap(points[static_cast<std::size_t>(soak.Chance(static_cast<long>(points.size())))],
+                      points.back());
+            const Point point = points.back();
+            points.pop_back();
+            const auto folder = soak.Copy(ShopOf(each), "struck");
+            const Outcome outcome = Disturb(soak, each, point, folder);
+            Judge(soak, each, point, outcome, BookReader(Database(folder)).Integrity());
+            ++tried[each.trouble->name];
+            if (outcome.struck) ++struck;
+        }
+        if (points.empty()) open.erase(at);
     }
-    std::cout << struck << " faults struck of " << all << " points in " << cases.size() - left.size()
-              << " of " << cases.size() << " cases;";
+    std::cout << struck << " faults struck of " << all << " points in " << walked << " of " << cases.size()
+              << " cases;";
     for (const auto& [name, count] : tried) std::cout << ' ' << name << ' ' << count;
     std::cout << "; " << soak.Faults() << " findings\n";
     return soak.Faults();
