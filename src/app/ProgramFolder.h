@@ -10,8 +10,8 @@ namespace varnik {
 // to date. std::filesystem::filesystem_error when it cannot be made.
 std::filesystem::path FindProgramFolder();
 
-// A folder of somebody's choice: made when it is missing, with the shipped reports and help; what stands
-// there already stays as it is.
+// A folder of somebody's choice: made when it is missing, with the shipped reports; what stands there
+// already stays as it is.
 std::filesystem::path PrepareProgramFolder(const std::filesystem::path& folder);
 
 } // namespace varnik

@@ -61,7 +61,8 @@ fBank::fBank(Services& services) : MasterScreen(services, row) {
     txtSaldoAkhir.SetRightAligned(true);
     Capitals(txtJenisRek);
     // The screens of receipts and payments look an account up by the first characters of its code.
-    txtRekID.SetToolTip("Three characters; receipts from customers read the first one alone");
+    txtRekID.SetToolTip(
+        "Receipts from customers read the first character, supplier payments the first three");
 }
 
 // The balances go in with the mask: from 1,000 on a separator stands in the statement, which then fails in

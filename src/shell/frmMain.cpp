@@ -1,5 +1,7 @@
 #include "shell/frmMain.h"
 
+#include "platform/desktop/Manual.h"
+
 namespace varnik {
 
 frmMain::frmMain(Services& services, forms::StatusBar& statusBar)
@@ -16,7 +18,7 @@ frmMain::frmMain(Services& services, forms::StatusBar& statusBar)
     mnuViewStatusBar.SetCheckable(true);
     mnuViewStatusBar.SetChecked(true);
     mnuViewStatusBar.onClick = [this] { ToggleStatusBar(); };
-    mnuHelpContents.onClick = [this] { OpenHelp(); };
+    mnuHelpContents.onClick = [this] { OpenManual(Desk()); };
     mnuHelpvisit.onClick = [this] { Desk().OpenWithShell("https://varnik.example/"); };
 
     forms::MenuItem* const arrangements[] = {&mnuWindowCascade, &mnuWindowTileHorizontal,
@@ -38,13 +40,6 @@ void frmMain::Opens(forms::MenuItem& item) {
 void frmMain::ToggleStatusBar() {
     mnuViewStatusBar.SetChecked(!mnuViewStatusBar.Checked());
     statusBar_.SetVisible(mnuViewStatusBar.Checked());
-}
-
-// The help file beside the program; the manual where there is none.
-void frmMain::OpenHelp() {
-    if (Desk().OpenWithShell("help.exe")) return;
-    const auto manual = Desk().ProgramFolder() / "Help" / "index.html";
-    if (!Desk().OpenWithShell(manual.string())) Say("The manual is not there: " + manual.string());
 }
 
 } // namespace varnik

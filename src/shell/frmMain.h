@@ -49,7 +49,6 @@ public:
 private:
     void Opens(forms::MenuItem& item);
     void ToggleStatusBar();
-    void OpenHelp();
 
     forms::StatusBar& statusBar_;
 };

@@ -245,10 +245,15 @@ bool Binder::OnKey(Binding* binding, QKeyEvent& event) {
     if (binding && IsDecimalKey(event) && TakesDecimals(*binding))
         key->character = static_cast<unsigned char>(regional_.decimal);
     const QPointer<Binder> alive(this);
-    const bool taken = screen_.PressKey(*key);
+    const bool help = event.key() == Qt::Key_F1 && onHelp;
+    const bool taken = !(help && key->shift) && screen_.PressKey(*key);
     if (!alive || screen_.Closed()) return true;
     SyncFocus();
     if (taken) return true;
+    if (help) {
+        onHelp();
+        return true;
+    }
     if (key->code == forms::KeyCode::Enter && key->ctrl && !key->alt) {
         PressSave();
         return true;

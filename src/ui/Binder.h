@@ -46,6 +46,8 @@ public:
     // A key that reached the window itself, as when no control can take the focus.
     bool PressKey(QKeyEvent& event);
 
+    // F1, where the screen has no use of its own for it; with Shift everywhere.
+    std::function<void()> onHelp;
     // What a frame or list that lies over the others does when it shows: the page places it.
     std::function<void(Binding&)> onOverlayShown;
 

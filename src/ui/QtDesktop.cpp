@@ -1,9 +1,11 @@
 #include "ui/QtDesktop.h"
 
 #include "platform/desktop/Failure.h"
+#include "platform/desktop/Manual.h"
 #include "platform/desktop/Services.h"
 #include "platform/forms/Controls.h"
 #include "reports/engine/Report.h"
+#include "ui/Help.h"
 #include "ui/Icons.h"
 #include "ui/QtText.h"
 #include "ui/ScreenWindow.h"
@@ -15,10 +17,10 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileInfo>
 #include <QLockFile>
 #include <QMenu>
 #include <QScreen>
+#include <QShortcut>
 #include <QTimer>
 #include <QUrl>
 #include <QWindow>
@@ -58,6 +60,7 @@ void QtDesktop::Open(std::unique_ptr<forms::Screen> screen, bool modal, std::fun
         QObject::connect(window, &QObject::destroyed, opener, [opener] { opener->activateWindow(); });
     }
     window->onClosed = [this, then = std::move(then)](ScreenWindow& closed) { Closed(closed, then); };
+    window->Binding().onHelp = [this, window] { OpenManual(*this, HelpPageOf(window->Screen().Name())); };
     window->Open(modal);
 }
 
@@ -204,6 +207,9 @@ void QtDesktop::LaunchReport(const ReportRequest& request) {
     preview->setWindowIcon(QIcon(QStringLiteral(":/icons/logo.svg")));
     std::erase_if(previews_, [](const QPointer<QWidget>& known) { return !known; });
     previews_.emplace_back(preview);
+    auto* help = new QShortcut(QKeySequence(Qt::Key_F1), preview);
+    QObject::connect(help, &QShortcut::activated, preview,
+                     [this] { OpenManual(*this, "reports.html#preview"); });
     preview->ShowAsAsked();
 }
 
@@ -211,8 +217,14 @@ bool QtDesktop::OpenWithShell(const std::string& target) {
     const QString text = ToQt(target);
     if (text.startsWith(QLatin1String("mailto:")) || text.contains(QLatin1String("://")))
         return QDesktopServices::openUrl(QUrl(text, QUrl::TolerantMode));
-    const QFileInfo file(QDir(ToQt(programFolder_.string())), text);
-    return file.exists() && QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
+    // A file, and perhaps a place in it.
+    const QDir folder(ToQt(programFolder_.string()));
+    const qsizetype hash = folder.exists(text) ? -1 : text.lastIndexOf(QLatin1Char('#'));
+    const QString file = hash < 0 ? text : text.left(hash);
+    if (!folder.exists(file)) return false;
+    QUrl url = QUrl::fromLocalFile(folder.absoluteFilePath(file));
+    if (hash >= 0) url.setFragment(text.mid(hash + 1));
+    return QDesktopServices::openUrl(url);
 }
 
 void QtDesktop::Hourglass(bool on) {

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
 #include <functional>
@@ -97,8 +98,8 @@ private:
         } masters[] = {{"F02", "fCustomer", "txtKode", "0000000002", true},
                        {"F03", "fSupplier", "txtKode", "0000000001", true},
                        {"F04", "fBank", "txtRekID", "2", true},
-                       {"F08", "fAccJenisProduk", "txtKode", "TEA", false},
-                       {"F09", "frmJenisCustomer", "txtKode", "002", false},
+                       {"F08", "fAccJenisProduk", "txtKode", "DRK", false},
+                       {"F09", "frmJenisCustomer", "txtKode", "OFF", false},
                        {"F06", "fJenisBiaya", "txtKode", "002", false},
                        {"F07", "fBiaya", "txtKode", "0000000002", false}};
         for (const auto& master : masters) {
@@ -122,6 +123,7 @@ private:
         PopUp("Invoice", "TxtTglInvoice", Qt::Key_F4, "calendar");
         EnterUpTo("Invoice", "TxtKodeCus");
         Press("Invoice", Qt::Key_F5);
+        Press("Invoice", Qt::Key_Down);
         Both("Invoice", "lookup");
         QTest::keyClicks(Window("Invoice")->focusWidget(), QStringLiteral("war"));
         Both("Invoice", "narrowed");
@@ -141,6 +143,7 @@ private:
         Press("Invoice", Qt::Key_Return);
         Click("Invoice", "bttnSave");
         Both("Invoice", "saved");
+        invoice_ = Text("Invoice", "TxtNoInvoice");
         Click("Invoice", "bttnPrint");
         Preview("Invoice-print");
         Click("Invoice", "bttnFind");
@@ -151,6 +154,7 @@ private:
 
     // The receipt for the invoice that stands on its screen.
     void Receipt() {
+        Keys("Invoice", "TxtNoInvoice", invoice_.c_str());
         Click("Invoice", "bttnBayar");
         Settle([&] { return Window("Bayar"); });
         Keys("Bayar", "TxtNamaPenerima", "Tini");
@@ -170,7 +174,7 @@ private:
         Keys("BayarInvoice", "TxtNamaBank", "Bank Nusa");
         Keys("BayarInvoice", "TxtNoCek", "CQ-0091");
         Keys("BayarInvoice", "TxtPemilik", "Warung Bu Tini");
-        Keys("BayarInvoice", "TxtNoInvoice", "000000000100");
+        Keys("BayarInvoice", "TxtNoInvoice", invoice_.c_str());
         Press("BayarInvoice", Qt::Key_Return);
         Click("BayarInvoice", "bttnAddLine");
         Both("BayarInvoice", "entry");
@@ -190,7 +194,7 @@ private:
     void Return() {
         if (!Open("T03", "InvoiceRetur")) return;
         Click("InvoiceRetur", "bttnNew");
-        Keys("InvoiceRetur", "TxtNoInvoice", "000000000100");
+        Keys("InvoiceRetur", "TxtNoInvoice", invoice_.c_str());
         Press("InvoiceRetur", Qt::Key_Return);
         Both("InvoiceRetur", "loaded");
         Click("InvoiceRetur", "bttnSave");
@@ -208,18 +212,19 @@ private:
         Press("Faktur", Qt::Key_Return);
         Keys("Faktur", "TxtKodeSup", "0000000001");
         Press("Faktur", Qt::Key_Return); // goes to the lines
-        for (const char* line : {"0000000001", "0000000002", "0000000003"}) {
+        for (const char* line : {"0000000004", "0000000007", "0000000009"}) {
             Press("Faktur", Qt::Key_Return); // opens the next
             Keys("Faktur", "txtKodeBrg", line);
             Press("Faktur", Qt::Key_Return);
-            Keys("Faktur", "txtQty", "24");
-            if (line[9] == '3') break; // the third stays on the entry line
+            Keys("Faktur", "txtQty", "4");
+            if (line[9] == '9') break; // the third stays on the entry line
             Click("Faktur", "bttnAddLine");
         }
         Both("Faktur", "entry");
         Click("Faktur", "bttnAddLine");
         Click("Faktur", "bttnSave");
         Both("Faktur", "saved");
+        purchase_ = Text("Faktur", "TxtNoFaktur");
         Click("Faktur", "bttnPrint");
         Preview("Faktur-print");
     }
@@ -227,7 +232,7 @@ private:
     void PurchaseReturn() {
         if (!Open("T06", "FakturRetur")) return;
         Click("FakturRetur", "bttnNew");
-        Keys("FakturRetur", "txtNoPO", "000000000100");
+        Keys("FakturRetur", "txtNoPO", purchase_.c_str());
         Press("FakturRetur", Qt::Key_Return);
         Both("FakturRetur", "loaded");
         Click("FakturRetur", "bttnCancel");
@@ -237,8 +242,10 @@ private:
         if (!Open("T05", "BayarFaktur")) return;
         Click("BayarFaktur", "bttnNew");
         Keys("BayarFaktur", "TxtCaraBayar", "CHEQUE");
-        Keys("BayarFaktur", "TxtRekening", "2");
-        Keys("BayarFaktur", "TxtNoFaktur", "000000000100");
+        Keys("BayarFaktur", "TxtRekening", "300");
+        Keys("BayarFaktur", "TxtNoCek", "NB-41020");
+        Keys("BayarFaktur", "TxtNamaPenerima", "Ratna");
+        Keys("BayarFaktur", "TxtNoFaktur", purchase_.c_str());
         Press("BayarFaktur", Qt::Key_Return);
         Click("BayarFaktur", "bttnAddLine");
         Both("BayarFaktur", "entry");
@@ -308,6 +315,10 @@ private:
         if (!widget) return;
         Window(screen)->Screen().MoveFocus(*Window(screen)->Screen().FindControl(name));
         QTest::keyClicks(widget, QString::fromUtf8(text));
+    }
+    std::string Text(const std::string& screen, const char* name) {
+        auto* edit = qobject_cast<QLineEdit*>(Find(screen, name));
+        return edit ? edit->text().toStdString() : "";
     }
     void Press(const std::string& screen, Qt::Key key) {
         ui::ScreenWindow* window = Window(screen);
@@ -382,6 +393,7 @@ private:
     }
 
     QString pictures_;
+    std::string invoice_, purchase_; // the numbers of those that were entered for their pictures
     QObject context_;
     Regional regional_;
     ui::QtDesktop desktop_;

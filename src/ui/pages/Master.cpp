@@ -62,8 +62,11 @@ std::vector<Page> MasterPages() {
                             {Field("txtnDis", 8).Label("Discount"),
                              Field("txtnwDis", 8).Label("Discount Days"), Field("txtnJTP", 8),
                              Field("txtSaldoAwal", 16), Field("txtSaldoAkhir", 16), Field("txtket", 24)});
+    Node code =
+        Row({Field("txtRekID", 6),
+             Heading("one character to receive from customers, three to pay suppliers").Quiet(), Spring()});
     Node bank = Column({
-        Card("", Form({{Field("txtRekID", 6)},
+        Card("", Form({{std::move(code).Span(2)},
                        {Field("TxtNamaBank").Span(2)},
                        {Field("txtNoRek", 24), Field("txtJenisRek")},
                        {Field("txtNamaPemilik").Span(2)}})),
