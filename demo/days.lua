@@ -173,6 +173,49 @@ local function raise_prices()
     end
 end
 
+local function cost(name)
+    for number, row in ipairs(catalogue.costs) do
+        if row[1] == name then return string.format("%010d", number) end
+    end
+end
+
+-- What returns by the calendar of the shop: every so many days, from an account, to whom, what for, about how much.
+local Expenses = {
+    {every = 7, at = 6, account = "1", to = "TINI AND RINI", memo = "WAGES OF THE WEEK", cost = "DAILY WAGES", about = 840000},
+    {every = 14, at = 5, account = "1", to = "RINI", memo = "SATURDAY EVENING", cost = "OVERTIME", about = 90000},
+    {every = 5, at = 2, account = "1", to = "FUEL STATION", memo = "MOTOR CART", cost = "FUEL", about = 45000},
+    {every = 11, at = 4, account = "1", to = "UJANG", memo = "UNLOADING", cost = "DELIVERY HELP", about = 60000},
+    {every = 30, at = 8, account = "300", to = "HAJI MANSUR", memo = "RENT OF THE MONTH", cost = "SHOP RENT", about = 2500000},
+    {every = 30, at = 12, account = "1", to = "POWER COMPANY", memo = "METER 5512", cost = "ELECTRICITY", about = 410000},
+    {every = 30, at = 13, account = "1", to = "WATER WORKS", memo = "METER 0091", cost = "WATER", about = 95000},
+    {every = 30, at = 15, account = "300", to = "TELEPHONE COMPANY", memo = "LINE AND INTERNET", cost = "TELEPHONE AND INTERNET", about = 350000},
+    {every = 45, at = 20, account = "1", to = "PAK TOTO", memo = "SHELF AND LAMP", cost = "REPAIRS", about = 230000},
+    {every = 33, at = 17, account = "1", to = "TOKO ALAT TULIS PELANGI", memo = "RECEIPT BOOKS", cost = "OFFICE SUPPLIES", about = 75000},
+}
+
+local function keep_the_cash_book(day)
+    for _, expense in ipairs(Expenses) do
+        if day % expense.every == expense.at % expense.every then
+            local amount = expense.about + chance(-2, 3) * (expense.about // 40 // 500 * 500)
+            pay_cost(expense.account, expense.to, expense.memo, cost(expense.cost), amount)
+        end
+    end
+    if day % 30 == 1 then
+        pay_cost("300", "BANK NUSA", "FEES OF THE MONTH", cost "BANK CHARGES", 25000)
+        receive_other("2", "BANK NUSA", "INTEREST OF THE MONTH", 20000 + chance(30) * 500)
+    end
+    if day % 16 == 9 then receive_other("1", "PAPER COLLECTOR", "OLD CARTONS", chance(4, 9) * 8000) end
+    -- What the drawer does not need goes to the bank.
+    if day % 7 == 3 then
+        local there = sql "Select SaldoAkhir From Bank Where RekID = '1'"[1][1]
+        local spare = (there - 3000000) // 500000 * 500000
+        if spare > 0 then
+            pay_cost("1", "BANK NUSA", "TO THE BANK", cost "CASH BROUGHT TO THE BANK", spare)
+            receive_other("300", "CASH DRAWER", "FROM THE DRAWER", spare)
+        end
+    end
+end
+
 local days = {products = products}
 
 function days.stock_up(day)
@@ -196,6 +239,7 @@ function days.live(day)
     clock(day, "14:20:00")
     for _, customer in ipairs(customers) do collect(day, customer) end
     for _, supplier in ipairs(suppliers) do settle(day, supplier) end
+    keep_the_cash_book(day)
     if day % 25 == 3 then remind(customers[11]) end
     if day % 9 == 4 then
         for _ = 1, 12 do

@@ -259,3 +259,34 @@ function pay_supplier(method, account, purchases, payee, cheque)
     click "bttnSave"
     return number
 end
+
+-- The cash book ------------------------------------------------------------------------------------------------
+
+local function voucher(key, screen, method, account, payee)
+    at(key, screen)
+    click "bttnNew"
+    local number = text "txtNoBukti"
+    choose("TxtCaraBayar", method)
+    enter("TxtRekening", account)
+    enter("TxtNamaPenerima", payee)
+    return number
+end
+
+function receive_other(account, from, memo, amount)
+    local number = voucher("T08", "OtherReceive", "CASH", account, from)
+    enter("TxtMemo", memo)
+    enter("TxtJumlah", price_text(amount))
+    click "bttnSave"
+    return number
+end
+
+-- One cost a payment: the book of an account counts a payment of several once for each of them.
+function pay_cost(account, payee, memo, cost, amount)
+    local number = voucher("T09", "OtherPayment", "CASH", account, payee)
+    enter("TxtMemo", memo)
+    enter("TxtBiaya", cost)
+    enter("TxtJumlah", price_text(amount))
+    click "bttnAddLine"
+    click "bttnSave"
+    return number
+end

@@ -31,6 +31,8 @@ local documents = {
     {"T03", "TxtReturID", "sales-return", "Select ReturID From InvoiceRetur Order By ReturID"},
     {"T04", "TxtNoFaktur", "purchase", "Select NoFaktur From Faktur Order By NoFaktur"},
     {"T05", "txtNoBukti", "payment", "Select NoBKK From FakturBayar Order By NoBKK"},
+    {"T08", "txtNoBukti", "other-receipt", "Select NoBKM From BKM Where NoBKM Not In (Select NoBKM From InvoiceBayar) Order By NoBKM"},
+    {"T09", "txtNoBukti", "other-payment", "Select NoBKK From BKK Where KodeBiaya <> '' Order By NoBKK"},
     {"T06", "TxtNoFaktur", "purchase-return", "Select NoFaktur From FakturRetur Order By NoFaktur"},
 }
 for _, document in ipairs(documents) do

@@ -63,6 +63,7 @@ public:
         Payment();
         OtherReceipt();
         OtherPayment();
+        Ageing();
     }
 
 private:
@@ -212,12 +213,17 @@ private:
         Press("Faktur", Qt::Key_Return);
         Keys("Faktur", "TxtKodeSup", "0000000001");
         Press("Faktur", Qt::Key_Return); // goes to the lines
-        for (const char* line : {"0000000004", "0000000007", "0000000009"}) {
+        const struct {
+            const char *code, *price;
+        } lines[] = {{"0000000004", "198000"}, {"0000000007", "290000"}, {"0000000009", "92000"}};
+        for (const auto& line : lines) {
             Press("Faktur", Qt::Key_Return); // opens the next
-            Keys("Faktur", "txtKodeBrg", line);
+            Keys("Faktur", "txtKodeBrg", line.code);
             Press("Faktur", Qt::Key_Return);
             Keys("Faktur", "txtQty", "4");
-            if (line[9] == '9') break; // the third stays on the entry line
+            Press("Faktur", Qt::Key_Return);
+            Keys("Faktur", "txtHarga", line.price);
+            if (&line == &lines[2]) break; // the third stays on the entry line
             Click("Faktur", "bttnAddLine");
         }
         Both("Faktur", "entry");
@@ -291,6 +297,13 @@ private:
         Click("OtherPayment", "bttnFind");
         Click("OtherPayment", "cmdExecute");
         Both("OtherPayment", "search");
+    }
+
+    void Ageing() {
+        if (!Open("L01", "SalesReport")) return;
+        Click("SalesReport", "opLap1");
+        Click("SalesReport", "OKButton");
+        Preview("SalesReport-ageing");
     }
 
     ui::ScreenWindow* Window(const std::string& screen) { return desktop_.WindowOf(screen); }
