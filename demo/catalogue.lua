@@ -22,7 +22,7 @@ shop.costs = {
 -- Customer receipts know an account by the first character of its code, supplier payments by three: so the
 -- drawer and the account for what comes in have one, the account that suppliers are paid from has three.
 shop.accounts = {
-    {code = "1", name = "CASH DRAWER", number = "-", owner = "KIOS MELATI", kind = "CASH", opening = 2500000, default = true},
+    {code = "1", name = "CASH DRAWER", number = "COUNTER", owner = "KIOS MELATI", kind = "CASH", opening = 2500000, default = true},
     {code = "2", name = "BANK NUSA RECEIPTS", number = "123-456-789", owner = "KIOS MELATI", kind = "GIRO", opening = 18000000},
     {code = "300", name = "BANK NUSA PAYMENTS", number = "123-456-902", owner = "KIOS MELATI", kind = "GIRO", opening = 120000000},
 }

@@ -9,6 +9,18 @@
 
 namespace varnik::test {
 
+// Keeps what would be handed to the shell, but for a help file, which is not there.
+class QuietDesktop : public ui::QtDesktop {
+public:
+    using QtDesktop::QtDesktop;
+    bool OpenWithShell(const std::string& target) override {
+        if (target == "help.exe") return false;
+        shell.push_back(target);
+        return true;
+    }
+    std::vector<std::string> shell;
+};
+
 class ShopTest : public ::testing::Test {
 protected:
     ShopTest() {
@@ -84,7 +96,7 @@ protected:
     QTemporaryDir folder;
     Regional regional;
     Boxes boxes;
-    ui::QtDesktop desktop{folder.path().toStdString(), regional};
+    QuietDesktop desktop{folder.path().toStdString(), regional};
     Program program{desktop, regional};
 };
 
