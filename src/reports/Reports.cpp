@@ -1,7 +1,26 @@
 #include "reports/Reports.h"
 
+#include "reports/LapBiaya1.h"
+#include "reports/LapPers1.h"
+#include "reports/LedgerBook.h"
+
 namespace varnik {
 
-void RegisterReports(Services&) {}
+namespace {
+
+template <typename Screen>
+void Register(Services& services, const char* key, const char* name) {
+    services.screens[key] = {name, [](Services& s) { return std::make_unique<Screen>(s); }};
+}
+
+} // namespace
+
+void RegisterReports(Services& services) {
+    Register<LapPers1>(services, "L13", "LapPers1");
+    Register<BukuBank>(services, "L16", "BukuBank");
+    Register<BukuHutang>(services, "L17", "BukuHutang");
+    Register<BukuPiutang>(services, "L18", "BukuPiutang");
+    Register<LapBiaya1>(services, "L21", "LapBiaya1");
+}
 
 } // namespace varnik

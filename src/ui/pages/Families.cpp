@@ -151,7 +151,9 @@ Page ReportDialogPage(std::string screen, ReportDialogParts parts) {
         std::vector<Node> kinds;
         for (std::string& kind : parts.kinds) kinds.push_back(Button(std::move(kind)));
         kinds.push_back(Spring());
-        cards.push_back(Card("Report", Inside(std::move(parts.kindsFrame), Column(std::move(kinds)))));
+        Node list = Column(std::move(kinds));
+        if (!parts.kindsFrame.empty()) list = Inside(std::move(parts.kindsFrame), std::move(list));
+        cards.push_back(Card("Report", std::move(list)));
     }
     cards.push_back(Card("Choice", std::move(parts.choice)).Share(1));
     Page page = DialogPage(std::move(screen), Row(std::move(cards)), {"OKButton", "CancelButton"});
