@@ -64,6 +64,8 @@ public:
         OtherReceipt();
         OtherPayment();
         Ageing();
+        StockAndCost();
+        Books();
     }
 
 private:
@@ -304,6 +306,38 @@ private:
         Click("SalesReport", "opLap1");
         Click("SalesReport", "OKButton");
         Preview("SalesReport-ageing");
+    }
+
+    void StockAndCost() {
+        for (const auto& [option, name] :
+             {std::pair{"opLap1", "balance"}, {"opLap2", "card"}, {"opLap3", "prices"}}) {
+            if (!Open("L13", "LapPers1")) return;
+            Click("LapPers1", option);
+            Both("LapPers1", name);
+            Click("LapPers1", "OKButton");
+            Preview(("LapPers1-" + std::string(name) + "-print").c_str());
+        }
+        if (!Open("L21", "LapBiaya1")) return;
+        Click("LapBiaya1", "Option2");
+        Both("LapBiaya1", "detail");
+        Click("LapBiaya1", "OKButton");
+        Preview("LapBiaya1-print");
+    }
+
+    // This month of the first account, customer and supplier.
+    void Books() {
+        const QDate today = QDate::currentDate();
+        for (const auto& [key, name] :
+             {std::pair{"L16", "BukuBank"}, {"L18", "BukuPiutang"}, {"L17", "BukuHutang"}}) {
+            if (!Open(key, name)) return;
+            Press(name, Qt::Key_Down);
+            Press(name, Qt::Key_Return);
+            Keys(name, "Text1", QByteArray::number(today.month()));
+            Keys(name, "Text2", QByteArray::number(today.year()));
+            Both(name, "month");
+            Click(name, "OKButton");
+            Preview((std::string(name) + "-print").c_str());
+        }
     }
 
     ui::ScreenWindow* Window(const std::string& screen) { return desktop_.WindowOf(screen); }
