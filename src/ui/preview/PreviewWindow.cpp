@@ -30,6 +30,7 @@ namespace {
 
 constexpr int FitWidthItem = 0, FitPageItem = 1;
 constexpr int MessageTime = 6000; // ms
+constexpr int WaitForBar = 400;   // ms of work before its bar shows
 
 QWidget* Spacer(QWidget* parent) {
     auto* spacer = new QWidget(parent);
@@ -231,18 +232,23 @@ bool PreviewWindow::Find(const QString& text, bool forward) {
     // A new search begins on the page that is looked at.
     const auto from = hit_ ? hit_ : std::optional(reports::Hit{view_->CurrentPage(), forward ? -1 : 1 << 30});
     QProgressDialog bar("Searching ...", "Stop", 0, report_->PageCount(), this);
+    bar.setWindowTitle(windowTitle());
     bar.setWindowModality(Qt::WindowModal);
+    bar.setMinimumDuration(WaitForBar);
     hit_ = report_->Find(text.toStdString(), from, forward, [&](long done, long) {
         bar.setValue(static_cast<int>(done));
         return !bar.wasCanceled();
     });
+    const bool stopped = bar.wasCanceled();
     bar.reset();
     if (hit_) {
         statusBar()->clearMessage();
         view_->Reveal(*hit_);
     } else {
         view_->ClearHit();
-        statusBar()->showMessage(QStringLiteral("\"%1\" is not in the report.").arg(text), MessageTime);
+        statusBar()->showMessage(stopped ? QStringLiteral("The search was stopped.")
+                                         : QStringLiteral("\"%1\" is not in the report.").arg(text),
+                                 MessageTime);
     }
     return hit_.has_value();
 }
@@ -262,7 +268,7 @@ void PreviewWindow::Save(const QString& file, const QString& doing,
     QProgressDialog bar(doing, "Stop", 0, 100, this);
     bar.setWindowTitle(windowTitle());
     bar.setWindowModality(Qt::WindowModal);
-    bar.setMinimumDuration(400);
+    bar.setMinimumDuration(WaitForBar);
     try {
         const bool done = work([&](long part, long total) {
             bar.setValue(total > 0 ? static_cast<int>(part * 100 / total) : 0);

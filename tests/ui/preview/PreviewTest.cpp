@@ -12,9 +12,13 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
+#include <QProgressDialog>
+#include <QStatusBar>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -135,6 +139,44 @@ TEST_F(Preview, WritesAPdfWholeOrNotAtAll) {
     EXPECT_TRUE(WritePdf(*report, file));
     EXPECT_EQ(FileText(file).substr(0, 5), "%PDF-");
     EXPECT_THROW(WritePdf(*report, folder.filePath("no/such/folder.pdf").toStdString()), ado::DataError);
+}
+
+TEST_F(Preview, SavesUnderTheNameGivenAndSaysSo) {
+    const QTemporaryDir folder;
+    Open(30);
+    const std::pair<const char*, void (PreviewWindow::*)(QString)> kinds[] = {
+        {"list.pdf", &PreviewWindow::SavePdf},
+        {"list.xlsx", &PreviewWindow::SaveXlsx},
+        {"list.csv", &PreviewWindow::SaveCsv}};
+    for (const auto& [name, save] : kinds) {
+        (*window.*save)(folder.filePath(name));
+        EXPECT_GT(QFileInfo(folder.filePath(name)).size(), 1000) << name;
+        EXPECT_TRUE(window->statusBar()->currentMessage().endsWith(name)) << name;
+        QString told;
+        QTimer::singleShot(0, window.get(), [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            told = box->text();
+            box->accept();
+        });
+        (*window.*save)(folder.filePath("no/such/") + name);
+        EXPECT_TRUE(told.contains("cannot be written")) << told.toStdString();
+    }
+}
+
+TEST_F(Preview, LongWorkIsStoppedByItsButton) {
+    const QTemporaryDir folder;
+    Open(ManyRows);
+    QTimer hand;
+    QObject::connect(&hand, &QTimer::timeout, [] {
+        if (auto* bar = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget())) bar->cancel();
+    });
+    hand.start(1);
+    window->SavePdf(folder.filePath("list.pdf"));
+    EXPECT_EQ(window->statusBar()->currentMessage(), "Stopped; nothing was saved.");
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+    EXPECT_FALSE(window->Find("no such text"));
+    EXPECT_EQ(window->statusBar()->currentMessage(), "The search was stopped.");
 }
 
 TEST_F(Preview, PrintsTheAskedPagesAndStops) {

@@ -108,6 +108,39 @@ TEST(Paging, EveryRowStandsOnceUnderItsHeadings) {
     }
 }
 
+// Of every product's card the opening line stands with the first movement, the closing one with the last.
+TEST(Paging, AGroupsBalancesStayWithItsRows) {
+    Rows rows({"ID", "Tanggal", "KodeBrg", "NamaBrg", "Memo", "Masuk", "Qty2", "Saldo"});
+    int id = 0;
+    for (int product = 0; product < 200; ++product)
+        for (int row = 0; row <= product % 4; ++row)
+            rows.Add(std::array<Value, 8>{Value(++id), Value(*FromIso("2026-11-02")),
+                                          Value("P" + std::to_string(1000 + product)), Value("Goods"),
+                                          Value("Sold"), Value(0), Value(2.5), Value(100 - 2.5 * row)});
+    const Report report(LoadDefinition("Report", "Stok.rpt"), std::move(rows), FactsOf());
+    ASSERT_GT(report.PageCount(), 5);
+    int openings = 0, closings = 0;
+    for (int number = 1; number <= report.PageCount(); ++number) {
+        std::vector<std::string> texts;
+        for (const TextRun& run : report.BuildPage(number).runs) texts.push_back(run.text);
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            if (texts[i] == "Opening balance") {
+                ++openings;
+                ASSERT_LT(i + 2, texts.size());
+                EXPECT_EQ(texts[i + 1], "02/11/2026") << "page " << number;
+                EXPECT_EQ(texts[i - 1], "102.5");
+            }
+            if (texts[i] == "Closing balance") {
+                ++closings;
+                EXPECT_NE(std::find(texts.begin(), texts.begin() + static_cast<std::ptrdiff_t>(i), "Sold"),
+                          texts.begin() + static_cast<std::ptrdiff_t>(i));
+            }
+        }
+    }
+    EXPECT_EQ(openings, 200);
+    EXPECT_EQ(closings, 200);
+}
+
 TEST(Paging, AGroupThatGoesOnSaysSo) {
     Rows rows({"Id", "Name", "Type", "Customer", "Amount"});
     for (int row = 0; row < 100; ++row)
