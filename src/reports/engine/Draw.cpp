@@ -88,9 +88,18 @@ double NextHead(const Table& table, double width, Page& page) {
     std::string title = document ? document->heading : table.Title();
     if (document && !document->fields.empty())
         title += "  " + table.Fill(document->fields.front().text, table.All());
-    Line(page, Margin, Margin, width * 0.5, table.About().company[0], {9, true, Accent});
+    // Whose book it is stands on every page.
+    const std::string subtitle = document ? "" : table.Subtitle();
+    constexpr double NameShare = 0.3; // of the line
+    const double name = width * NameShare, rest = width - name;
+    const double titleWidth = std::min(rest, TextWidth(title, 9, true) + CellPadding);
+    Line(page, Margin, Margin, name, table.About().company[0], {9, true, Accent});
+    if (!subtitle.empty())
+        Line(page, Margin + name, Margin, rest - titleWidth - CellPadding, subtitle,
+             {9, false, Muted, Align::Right});
     const double height =
-        Line(page, Margin + width * 0.5, Margin, width * 0.5, title, {9, true, Black, Align::Right}) + 1.2;
+        Line(page, Margin + width - titleWidth, Margin, titleWidth, title, {9, true, Black, Align::Right}) +
+        1.2;
     HorizontalRule(page, Margin, Margin + height, width, Accent, 0.4);
     return height + 2.5;
 }

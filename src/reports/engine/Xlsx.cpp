@@ -31,7 +31,7 @@ std::string DateFormat(const Regional& regional) {
 }
 
 struct Formats {
-    lxw_format *heading, *figures, *decimals, *date;
+    lxw_format *heading, *figures, *decimals, *fractions, *date;
 };
 
 lxw_format* NumberFormat(lxw_workbook* book, const std::string& mask) {
@@ -51,8 +51,14 @@ void WriteCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const Valu
         worksheet_write_number(sheet, row, column, day, formats.date);
     } else if (!value.IsNull()) {
         const double number = value.IsDouble() ? value.Double() : static_cast<double>(value.Integer());
-        const bool whole = std::abs(number - std::round(number)) < 0.005;
-        worksheet_write_number(sheet, row, column, number, whole ? formats.figures : formats.decimals);
+        constexpr double Unseen = 0.0005; // what three decimals do not show
+        const auto isMadeOf = [number](double parts) {
+            return std::abs(number - std::round(number * parts) / parts) < Unseen;
+        };
+        worksheet_write_number(sheet, row, column, number,
+                               isMadeOf(1)     ? formats.figures
+                               : isMadeOf(100) ? formats.decimals
+                                               : formats.fractions);
     }
 }
 
@@ -83,7 +89,7 @@ bool Report::WriteXlsx(const std::filesystem::path& file, const Progress& progre
     if (book == nullptr) output.Fail("there is no memory left");
     lxw_worksheet* sheet = workbook_add_worksheet(book, SheetName(Title()).c_str());
     Formats formats{workbook_add_format(book), NumberFormat(book, "#,##0"), NumberFormat(book, "#,##0.00"),
-                    NumberFormat(book, DateFormat(About().regional))};
+                    NumberFormat(book, "#,##0.00#"), NumberFormat(book, DateFormat(About().regional))};
     format_set_bold(formats.heading);
     format_set_bottom(formats.heading, LXW_BORDER_THIN);
     format_set_bg_color(formats.heading, 0xE8EEF4);

@@ -80,7 +80,8 @@ TEST_F(Output, AStoppedOrFailingFileLeavesNothingBehind) {
 }
 
 TEST_F(Output, ASpreadsheetHoldsNumbersAndDatesAsSuch) {
-    const Report report(ReadDefinition(Lines, "Lines.rpt"), RowsOf(Data), FactsOf());
+    const Report report(ReadDefinition(Lines, "Lines.rpt"), RowsOf(Data + std::string("B2|||2.125\n")),
+                        FactsOf());
     EXPECT_TRUE(report.WriteXlsx(folder / "rows.xlsx"));
     // The file is a zip archive; unpacked by the system's own tool where there is one.
     const std::string unpack = "cd '" + folder.string() + "' && unzip -q rows.xlsx xl/worksheets/sheet1.xml";
@@ -90,4 +91,13 @@ TEST_F(Output, ASpreadsheetHoldsNumbersAndDatesAsSuch) {
     EXPECT_THAT(sheet, testing::ContainsRegex("<c r=\"D2\"[^>]*><v>1234567.5</v>"));
     EXPECT_THAT(sheet, testing::ContainsRegex("<c r=\"B2\"[^>]*><v>46053</v>")); // 31 January 2026
     EXPECT_THAT(sheet, testing::HasSubstr("He said"));
+    // Whole amounts, those with cents and small quantities each show what they are.
+    const auto style = [&](const std::string& cell) {
+        const std::size_t at = sheet.find("<c r=\"" + cell + "\"");
+        return at == std::string::npos ? "" : sheet.substr(at + cell.size() + 7, 5);
+    };
+    EXPECT_NE(style("D2"), style("D4"));
+    EXPECT_NE(style("D5"), style("D2"));
+    EXPECT_NE(style("D5"), style("D4"));
+    EXPECT_EQ(style("D2"), style("D3"));
 }
