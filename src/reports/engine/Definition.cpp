@@ -238,6 +238,8 @@ Definition Read(const toml::table& table) {
     for (const Column& column : definition.columns)
         if (column.running && !definition.running)
             Section::Fail(table.source(), "a running column needs the [running] section");
+    if (definition.running && !definition.running->balance.empty() && definition.groups.empty())
+        Section::Fail(table.source(), "a balance that the rows hold needs a [[group]] that it belongs to");
     return definition;
 }
 

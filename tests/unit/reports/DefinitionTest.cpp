@@ -52,6 +52,7 @@ TEST(Definition, RefusesWhatItCannotReadWithFileAndLine) {
              Case{"[document]\ntotals = [\"Netto\"]\n",
                   "in line 2: \"totals\" of document has to hold pairs"},
              Case{"[[column]]\nrunning = true\n", "a running column needs the [running] section"},
+             Case{"[running]\nchange = \"A\"\nbalance = \"B\"\n", "needs a [[group]]"},
              Case{"title = \n", "is broken in line 1"},
          }) {
         SCOPED_TRACE(test.text);
