@@ -3,6 +3,8 @@
 #include "reports/LapBiaya1.h"
 #include "reports/LapPers1.h"
 #include "reports/LedgerBook.h"
+#include "reports/PurchasesReport.h"
+#include "reports/SalesReport.h"
 
 namespace varnik {
 
@@ -16,6 +18,8 @@ void Register(Services& services, const char* key, const char* name) {
 } // namespace
 
 void RegisterReports(Services& services) {
+    Register<SalesReport>(services, "L01", "SalesReport");
+    Register<PurchasesReport>(services, "L04", "PurchasesReport");
     Register<LapPers1>(services, "L13", "LapPers1");
     Register<BukuBank>(services, "L16", "BukuBank");
     Register<BukuHutang>(services, "L17", "BukuHutang");

@@ -33,6 +33,15 @@ bool IsContainer(const QWidget& widget) {
     return widget.metaObject() == &QFrame::staticMetaObject && !widget.property("statusbar").toBool();
 }
 
+void ForgetHints(QLayout& layout) {
+    for (int index = 0; index < layout.count(); ++index) {
+        QLayoutItem& item = *layout.itemAt(index);
+        if (QLayout* inner = item.widget() ? item.widget()->layout() : item.layout()) ForgetHints(*inner);
+        item.invalidate();
+    }
+    layout.invalidate();
+}
+
 void SettleLayouts(QWidget& container) {
     if (QLayout* layout = container.layout()) {
         layout->invalidate();

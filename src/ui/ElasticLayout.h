@@ -8,6 +8,8 @@
 #include <QWidget>
 #include <vector>
 
+class QLayout;
+
 namespace varnik::ui {
 
 class ElasticLayout {
@@ -31,6 +33,9 @@ private:
 
 // Whether the widget only holds others, and its own layout is the page's.
 bool IsContainer(const QWidget& widget);
+
+// Lets a layout and those within ask their widgets anew: captions come in after it was made.
+void ForgetHints(QLayout& layout);
 
 // Runs all layouts from the outside in, hidden panels too, so that every widget has its place.
 void SettleLayouts(QWidget& container);

@@ -154,6 +154,7 @@ QLabel* PageBuilder::LabelOf(const Node& cell, Binding& binding) {
         auto* label = by ? qobject_cast<QLabel*>(by->Widget()) : nullptr;
         if (label) {
             label->setBuddy(binding.FocusTarget());
+            label->setMinimumWidth(cell.labelWidth * label->fontMetrics().averageCharWidth());
             binder_.NameAfter(binding, by->Control());
         }
         return label;

@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QScreen>
 
 namespace varnik::ui {
@@ -53,6 +54,7 @@ void ScreenWindow::Open(bool modal) {
     binder_->RefreshAll();
 
     ensurePolished();
+    ForgetHints(*layout());
     resize(page_ ? sizeHint().expandedTo(builder.RoomForOverlays(*page_)) : sizeHint());
     SettleLayouts(*this);
     if (page_) builder.PlaceOverlays(*page_);

@@ -63,7 +63,7 @@ public:
         Payment();
         OtherReceipt();
         OtherPayment();
-        Ageing();
+        Reports();
         StockAndCost();
         Books();
     }
@@ -301,11 +301,22 @@ private:
         Both("OtherPayment", "search");
     }
 
-    void Ageing() {
-        if (!Open("L01", "SalesReport")) return;
-        Click("SalesReport", "opLap1");
-        Click("SalesReport", "OKButton");
-        Preview("SalesReport-ageing");
+    // A kind with its list open and its report, for sales and for purchases.
+    void Reports() {
+        for (const auto& [key, screen] :
+             {std::pair{"L01", "SalesReport"}, std::pair{"L04", "PurchasesReport"}}) {
+            if (!Open(key, screen)) continue;
+            Click(screen, "opLap1");
+            Both(screen, "aged");
+            Click(screen, "OKButton");
+            Preview((std::string(screen) + "-aged-print").c_str());
+            Click(screen, "opLap2");
+            PopUp(screen, "Combo1", Qt::Key_F4, (std::string(screen) + "-list").c_str());
+            Click(screen, "Option2");
+            Both(screen, "types");
+            Click(screen, "OKButton");
+            Preview((std::string(screen) + "-types-print").c_str());
+        }
     }
 
     void StockAndCost() {

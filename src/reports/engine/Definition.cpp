@@ -136,6 +136,7 @@ Column ReadColumn(const toml::table& table) {
     section.Get("field", column.field);
     section.Parse("formula", column.formula);
     section.Parse("text", column.text);
+    section.Get("days", column.days);
     section.Get("running", column.running);
     section.Get("width", column.width);
     section.Get("flex", column.flex);
@@ -143,6 +144,7 @@ Column ReadColumn(const toml::table& table) {
         "align", column.align, {{"left", Align::Left}, {"right", Align::Right}, {"center", Align::Center}});
     section.Get("mask", column.mask);
     section.Get("total", column.total);
+    section.Get("total_of", column.totalOf);
     section.Choose<Show>("show", column.show,
                          {{"always", Show::Always}, {"detail", Show::Detail}, {"summary", Show::Summary}});
     section.Get("optional", column.optional);
@@ -156,10 +158,10 @@ Column ReadColumn(const toml::table& table) {
         ageSection.RefuseTheRest();
     }
     section.RefuseTheRest();
-    const int sources =
-        !column.field.empty() + column.formula.has_value() + !column.text.Empty() + column.running;
+    const int sources = !column.field.empty() + column.formula.has_value() + !column.text.Empty() +
+                        !column.days.empty() + column.running;
     if (sources != 1)
-        Section::Fail(table.source(), "a column has exactly one of field, formula, text, running");
+        Section::Fail(table.source(), "a column has exactly one of field, formula, text, days, running");
     if (column.width <= 0) Section::Fail(table.source(), "a column has to be wider than nothing");
     return column;
 }
@@ -170,6 +172,7 @@ Group ReadGroup(const toml::table& table) {
     section.Get("by", group.by);
     section.Parse("header", group.header);
     section.Parse("footer", group.footer);
+    section.Get("footer_from", group.footerFrom);
     section.Get("summary", group.summary);
     section.Get("new_page", group.newPage);
     section.Get("heading", group.heading);

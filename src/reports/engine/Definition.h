@@ -27,18 +27,20 @@ struct Age {
     int upTo = 1'000'000;
 };
 
-// A column takes its value from exactly one of: field, formula, text, running balance.
+// A column takes its value from exactly one of: field, formula, text, days, running balance.
 struct Column {
     std::string heading;
     std::string field;
     std::optional<Expression> formula;
     Template text;
+    std::string days;           // days from this date column to today
     bool running = false;       // the balance after this row
     double width = 20;          // mm; figures get more when they need it
     bool flex = false;          // shares what is left of the page's width, never less than `width`
     std::optional<Align> align; // figures right, all else left
     std::string mask;           // of figures; "" shows decimals only when a value of the column has some
     bool total = false;         // summed in group and closing lines
+    std::string totalOf;        // summed for the groups by this column alone: quantities of one product
     Show show = Show::Always;
     bool optional = false;  // left out when the statement does not bring it
     bool hideZero = false;  // a zero stays blank
@@ -49,6 +51,7 @@ struct Group {
     std::string by;       // a change of this column's value begins a new group
     Template header;      // "" for none
     Template footer;      // in front of the totals; "" for none
+    int footerFrom = 1;   // rows that a group has at least to get a footer
     bool summary = false; // in the summary form the whole group is one line
     bool newPage = false; // begins on a page of its own
     std::string heading;  // of the column that a spreadsheet gets for the header's text

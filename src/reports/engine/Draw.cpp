@@ -65,7 +65,10 @@ double FirstHead(const Table& table, double width, Page& page) {
     if (document) {
         right += Line(page, titleX, Margin, titleWidth, document->heading, {20, true, Accent, Align::Right});
     } else {
-        right += Paragraph(page, titleX, Margin, titleWidth, table.Title(), {14, true, Black, Align::Right});
+        // On one line where a slightly smaller type does it.
+        const double size = FittingSize(table.Title(), titleWidth, 14, true);
+        right += Paragraph(page, titleX, Margin, titleWidth, table.Title(),
+                           {size < 11 ? 14 : size, true, Black, Align::Right});
         if (const std::string subtitle = table.Subtitle(); !subtitle.empty())
             right += Paragraph(page, titleX, Margin + right + 0.6, titleWidth, subtitle,
                                {9, false, Muted, Align::Right}) +

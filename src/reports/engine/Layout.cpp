@@ -72,7 +72,9 @@ void Layout::ListGroups(std::size_t level, Span span) {
         if (level + 1 == definition.groups.size() && table_.BalancesGroups())
             Add(Kind::GroupOpening, LineItemHeight(), level, i);
         ListGroups(level + 1, groups[i]);
-        if (!group.footer.Empty() && table_.HasTotals()) Add(Kind::GroupFooter, LineItemHeight(), level, i);
+        const bool enough = groups[i].last - groups[i].first >= static_cast<std::uint32_t>(group.footerFrom);
+        if (!group.footer.Empty() && enough && table_.HasTotals())
+            Add(Kind::GroupFooter, LineItemHeight(), level, i);
     }
 }
 
@@ -159,7 +161,7 @@ double Layout::RowHeight(std::uint32_t row) const {
 }
 
 std::string Layout::SummaryText(const Slot& slot, const Item& item) const {
-    if (slot.sum >= 0) return table_.GroupSum(slot, item.level, item.index);
+    if (table_.ShowsSum(slot, item.level)) return table_.GroupSum(slot, item.level, item.index);
     return table_.CellText(slot, table_.Groups(item.level)[item.index].first);
 }
 
@@ -287,9 +289,9 @@ void Layout::DrawSums(const Item& item, const std::string& caption, double y, Pa
         std::string text;
         if (slot.column->running && (item.kind != Kind::GroupFooter || table_.BalancesGroups()))
             text = table_.FigureText(slot, BalanceOf(item));
-        else if (slot.sum >= 0 && item.kind == Kind::GroupFooter)
+        else if (item.kind == Kind::GroupFooter && table_.ShowsSum(slot, item.level))
             text = table_.GroupSum(slot, item.level, item.index);
-        else if (slot.sum >= 0 && item.kind == Kind::Total)
+        else if (item.kind == Kind::Total && table_.ShowsGrandSum(slot))
             text = table_.GrandSum(slot);
         if (text.empty()) continue;
         captionWidth = std::min(captionWidth, slot.x);

@@ -15,7 +15,8 @@ namespace varnik::reports {
 
 namespace {
 
-constexpr double SmallestSize = 6.5; // points; below it figures shrink one by one
+constexpr double SmallestSize = 6.5;    // points; below it figures shrink one by one
+constexpr double ShownFraction = 0.005; // half a hundredth is what two decimals can show
 
 // A named text of the request: a parameter, or one of the company's lines.
 std::string Parameter(const Facts& facts, std::string_view name) {
@@ -82,17 +83,21 @@ void Table::ChooseColumns() {
             there = slot.formula.HasAllColumns();
         } else if (!column.text.Empty()) {
             for (const std::string& name : column.text.Names()) there = there || rows_.Find(name) >= 0;
+        } else if (!column.days.empty()) {
+            there = rows_.Find(column.days) >= 0;
         }
         if (!there && column.optional) continue;
         if (column.age) slot.ageDate = rows_.Find(column.age->date);
-        slot.figures = column.formula.has_value() || column.running || column.total;
+        if (!column.days.empty()) slot.ageDate = rows_.Find(column.days);
+        const bool summed = column.total || !column.totalOf.empty();
+        slot.figures = column.formula.has_value() || column.running || summed || !column.days.empty();
         for (std::size_t row = 0; !slot.figures && slot.field >= 0 && row < rows_.Count(); ++row) {
             if (rows_.IsNull(row, slot.field)) continue;
             slot.figures = rows_.IsNumber(row, slot.field);
             break;
         }
         slot.align = column.align.value_or(slot.figures ? Align::Right : Align::Left);
-        if (column.total) slot.sum = sums_++;
+        if (summed) slot.sum = sums_++;
         slots_.push_back(std::move(slot));
     }
 }
@@ -101,7 +106,7 @@ void Table::OrderRows() {
     const int leaveOut = definition_.leaveOutZero.empty() ? -1 : rows_.Find(definition_.leaveOutZero);
     order_.reserve(rows_.Count());
     for (std::uint32_t row = 0; row < rows_.Count(); ++row)
-        if (leaveOut < 0 || rows_.Number(row, leaveOut) != 0) order_.push_back(row);
+        if (leaveOut < 0 || std::abs(rows_.Number(row, leaveOut)) >= ShownFraction) order_.push_back(row);
     std::vector<int> keys;
     for (const std::string& name : definition_.sort)
         if (const int column = rows_.Find(name); column >= 0) keys.push_back(column);
@@ -174,6 +179,15 @@ void Table::FindGroups() {
     addUp(All(), grandSums_);
 }
 
+bool Table::HasTotals() const {
+    return std::any_of(slots_.begin(), slots_.end(), [](const Slot& slot) { return slot.column->total; });
+}
+
+bool Table::ShowsSum(const Slot& slot, std::size_t level) const {
+    return slot.column->total ||
+           (slot.sum >= 0 && EqualsNoCase(slot.column->totalOf, definition_.groups[level].by));
+}
+
 std::size_t Table::GroupOf(std::size_t level, std::uint32_t row) const {
     const std::vector<Span>& spans = groups_[level].spans;
     const auto after = std::upper_bound(spans.begin(), spans.end(), row,
@@ -182,18 +196,20 @@ std::size_t Table::GroupOf(std::size_t level, std::uint32_t row) const {
 }
 
 void Table::ChooseMasks() {
+    // Amounts that are added up or carried stand side by side: all have decimals when one of them has some.
+    const auto amount = [](const Slot& slot) { return slot.column->total || slot.column->running; };
+    bool amountFractions = false;
     for (Slot& slot : slots_) {
         double least = 0, most = 0;
         bool fractions = false;
         const auto look = [&](double number) {
             least = std::min(least, number);
             most = std::max(most, number);
-            // Half a hundredth is what two decimals can show.
-            fractions = fractions || std::abs(number - std::round(number)) >= 0.005;
+            fractions = fractions || std::abs(number - std::round(number)) >= ShownFraction;
         };
         if (slot.figures) {
             for (std::uint32_t row = 0; row < RowCount(); ++row) look(Number(slot, row));
-            if (slot.sum >= 0) look(grandSums_[static_cast<std::size_t>(slot.sum)]);
+            if (ShowsGrandSum(slot)) look(grandSums_[static_cast<std::size_t>(slot.sum)]);
             if (slot.column->running && BalancesGroups()) {
                 for (std::size_t group = 0; !groups_.empty() && group < groups_.back().spans.size(); ++group)
                     look(OpeningOf(groups_.back().spans[group]));
@@ -201,14 +217,18 @@ void Table::ChooseMasks() {
                 look(Opening());
                 look(Closing());
             }
-            for (const Level& level : groups_)
-                for (std::size_t group = 0; slot.sum >= 0 && group < level.spans.size(); ++group)
-                    look(level.sums[group * static_cast<std::size_t>(sums_) +
-                                    static_cast<std::size_t>(slot.sum)]);
+            for (std::size_t level = 0; level < groups_.size(); ++level)
+                for (std::size_t group = 0; ShowsSum(slot, level) && group < groups_[level].spans.size();
+                     ++group)
+                    look(groups_[level].sums[group * static_cast<std::size_t>(sums_) +
+                                             static_cast<std::size_t>(slot.sum)]);
         }
         slot.mask = !slot.column->mask.empty() ? slot.column->mask : fractions ? "#,##0.00" : "#,##0";
+        amountFractions = amountFractions || (fractions && amount(slot));
         extremes_.emplace_back(least, most);
     }
+    for (Slot& slot : slots_)
+        if (amountFractions && amount(slot) && slot.column->mask.empty()) slot.mask = "#,##0.00";
 }
 
 double Table::NeededWidth(const Slot& slot, double size) const {
@@ -250,17 +270,22 @@ void Table::ChooseWidths(double width) {
     }
 }
 
+std::optional<int> Table::Days(const Slot& slot, std::size_t stored) const {
+    if (slot.ageDate < 0 || !rows_.IsDate(stored, slot.ageDate)) return {};
+    return facts_.now.day - rows_.Get(stored, slot.ageDate).Date().day;
+}
+
 bool Table::InAge(const Slot& slot, std::size_t stored) const {
     if (!slot.column->age) return true;
-    if (slot.ageDate < 0 || !rows_.IsDate(stored, slot.ageDate)) return false;
-    const int days = facts_.now.day - rows_.Get(stored, slot.ageDate).Date().day;
-    return days >= slot.column->age->from && days <= slot.column->age->upTo;
+    const std::optional<int> days = Days(slot, stored);
+    return days && *days >= slot.column->age->from && *days <= slot.column->age->upTo;
 }
 
 double Table::Number(const Slot& slot, std::uint32_t row) const {
     const std::uint32_t stored = order_[row];
     if (slot.column->running) return running_[row];
     if (slot.column->formula) return slot.formula.Evaluate(rows_, stored);
+    if (!slot.column->days.empty()) return Days(slot, stored).value_or(0);
     if (slot.field < 0 || !InAge(slot, stored)) return 0;
     return rows_.Number(stored, slot.field);
 }
@@ -271,6 +296,10 @@ Value Table::CellValue(const Slot& slot, std::uint32_t row) const {
     if (slot.column->formula)
         return slot.formula.HasColumns() ? Value(slot.formula.Evaluate(rows_, stored)) : Value();
     if (!slot.column->text.Empty()) return Value(Fill(slot.column->text, {row, row + 1}));
+    if (!slot.column->days.empty()) {
+        const std::optional<int> days = Days(slot, stored);
+        return days ? Value(static_cast<double>(*days)) : Value();
+    }
     if (slot.field < 0 || !InAge(slot, stored)) return {};
     return rows_.Get(stored, slot.field);
 }
@@ -311,10 +340,16 @@ std::string Table::GrandSum(const Slot& slot) const {
 
 std::size_t Table::LineCount() const { return summary_ ? groups_.back().spans.size() : order_.size(); }
 
+bool Table::InFront(const Group& group) const {
+    return !group.heading.empty() && std::none_of(slots_.begin(), slots_.end(), [&](const Slot& slot) {
+        return EqualsNoCase(slot.column->heading, group.heading);
+    });
+}
+
 std::vector<std::string> Table::LineHeadings() const {
     std::vector<std::string> headings;
     for (const Group& group : definition_.groups)
-        if (!group.heading.empty()) headings.push_back(group.heading);
+        if (InFront(group)) headings.push_back(group.heading);
     for (const Slot& slot : slots_) headings.push_back(slot.column->heading);
     return headings;
 }
@@ -323,10 +358,10 @@ std::vector<Value> Table::LineValues(std::size_t line) const {
     std::vector<Value> values;
     const std::uint32_t row = summary_ ? groups_.back().spans[line].first : static_cast<std::uint32_t>(line);
     for (std::size_t level = 0; level < definition_.groups.size(); ++level)
-        if (const Group& group = definition_.groups[level]; !group.heading.empty())
+        if (const Group& group = definition_.groups[level]; InFront(group))
             values.push_back(Value(Fill(group.header, groups_[level].spans[GroupOf(level, row)])));
     for (const Slot& slot : slots_)
-        values.push_back(summary_ && slot.sum >= 0
+        values.push_back(summary_ && ShowsSum(slot, groups_.size() - 1)
                              ? Value(groups_.back().sums[line * static_cast<std::size_t>(sums_) +
                                                          static_cast<std::size_t>(slot.sum)])
                              : CellValue(slot, row));
@@ -371,7 +406,7 @@ std::string Table::FillPlace(const Template::Place& place, Span span, bool decim
     if (value.IsDate()) return ShortDate(value.Date(), facts_.regional);
     if (value.IsNull()) return {};
     if (place.words) return words(value.Double());
-    decimals = decimals || std::abs(value.Double() - std::round(value.Double())) >= 0.005;
+    decimals = decimals || std::abs(value.Double() - std::round(value.Double())) >= ShownFraction;
     return NumberText(value.Double(), !place.mask.empty() ? place.mask : decimals ? "#,##0.00" : "#,##0");
 }
 

@@ -23,7 +23,7 @@ struct Slot {
     const Column* column = nullptr;
     Expression formula{};
     int field = -1;   // in the rows; -1 for none
-    int ageDate = -1; // the same
+    int ageDate = -1; // the same, of an age or of days
     bool figures = false;
     Align align = Align::Left;
     std::string mask;
@@ -44,7 +44,10 @@ public:
     std::uint32_t RowCount() const { return static_cast<std::uint32_t>(order_.size()); }
     bool Summary() const { return summary_; }     // groups marked so stand as one line each
     double FontSize() const { return fontSize_; } // points, of rows
-    bool HasTotals() const { return sums_ > 0; }
+    bool HasTotals() const;
+    // Whether the groups of a level show the sum of a column; whether the end does.
+    bool ShowsSum(const Slot& slot, std::size_t level) const;
+    bool ShowsGrandSum(const Slot& slot) const { return slot.column->total; }
 
     // Groups of one level, in order; together they hold every row once.
     const std::vector<Span>& Groups(std::size_t level) const { return groups_[level].spans; }
@@ -93,8 +96,11 @@ private:
     void Balance();
     void ChooseMasks();
     void ChooseWidths(double width);
+    // Whether a group stands as a column in front of the lines; not beside a column of the same heading.
+    bool InFront(const Group& group) const;
     double NeededWidth(const Slot& slot, double size) const;
     double Number(const Slot& slot, std::uint32_t row) const;
+    std::optional<int> Days(const Slot& slot, std::size_t stored) const; // from its date to today
     bool InAge(const Slot& slot, std::size_t stored) const;
     std::string FillPlace(const Template::Place& place, Span span, bool decimals) const;
     double Sum(const std::string& name, Span span) const;

@@ -153,7 +153,10 @@ Page ReportDialogPage(std::string screen, ReportDialogParts parts) {
         kinds.push_back(Spring());
         Node list = Column(std::move(kinds));
         if (!parts.kindsFrame.empty()) list = Inside(std::move(parts.kindsFrame), std::move(list));
-        cards.push_back(Card("Report", std::move(list)));
+        cards.push_back(
+            parts.kindsLabel.empty()
+                ? Card("Report", std::move(list))
+                : Card("", Column({Field(std::move(parts.kindsLabel)).Quiet(), std::move(list), Spring()})));
     }
     cards.push_back(Card("Choice", std::move(parts.choice)).Share(1));
     Page page = DialogPage(std::move(screen), Row(std::move(cards)), {"OKButton", "CancelButton"});

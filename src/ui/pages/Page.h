@@ -32,6 +32,7 @@ struct Node {
 
     std::string label{};   // for a control that has no caption of its own; of a table it is heard, not seen
     std::string labelBy{}; // a label control of the screen that stands before the field
+    int labelWidth = 0;    // characters kept free for it, where its caption changes
     int width = 0;         // characters of a field, visible rows of a table, pixels of a picture; 0: as usual
     int height = 0;        // pixels of a picture, lines of a text; 0: as usual
     int span = 1;          // cells of the form that it fills
@@ -48,7 +49,9 @@ struct Node {
     bool date = false;  // a text that is a date
 
     Node Label(std::string text) && { return label = std::move(text), std::move(*this); }
-    Node By(std::string control) && { return labelBy = std::move(control), std::move(*this); }
+    Node By(std::string control, int characters = 0) && {
+        return labelBy = std::move(control), labelWidth = characters, std::move(*this);
+    }
     Node Span(int cells) && { return span = cells, std::move(*this); }
     Node Share(int part) && { return share = part, std::move(*this); }
     Node High(int lines) && { return height = lines, std::move(*this); }
@@ -140,7 +143,7 @@ Page DialogPage(std::string screen, Node content, std::vector<std::string> butto
 // What is reported at the left, a list of options in their frame ("" and none for a dialog of one report),
 // the choice at the right, Print and Cancel below.
 struct ReportDialogParts {
-    std::string kindsFrame;
+    std::string kindsLabel, kindsFrame;
     std::vector<std::string> kinds;
     Node choice;
 };

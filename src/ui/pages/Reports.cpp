@@ -6,6 +6,22 @@ namespace varnik::ui {
 
 namespace {
 
+// Sales and purchases: five kinds, the filter, the period, and names that stay on the screen.
+Page TradeReportPage(std::string screen) {
+    Node choice = Column(
+        {Form({{Field("Combo1", 40).By("LblJenis", 15).Span(2)},
+               {Field("DTPicker1", 14).By("Label1"), Field("DTPicker2", 14).By("Label2", 8)}}),
+         Row({Inside("Frame2", Row({Field("Option1"), Field("Option2"), Spring()})), Spring(),
+              Field("DT1", 14), Picture("ProgressBar1", 1, 1).Label("Progress")}),
+         Card("Approved By", Inside("Frame3", Column({Form({{Field("TxtAdmin", 30)},
+                                                            {Field("txtSupervisor", 30)},
+                                                            {Field("txtManajer", 30)}}),
+                                                      Heading("No report prints these names").Quiet()})))});
+    return ReportDialogPage(
+        std::move(screen),
+        {"LblTipe", "Frame1", {"opLap1", "opLap2", "opLap3", "opLap4", "opLap5"}, std::move(choice)});
+}
+
 Page Inventory() {
     return ReportDialogPage("LapPers1", {.kindsFrame = "",
                                          .kinds = {"opLap1", "opLap2", "opLap3"},
@@ -32,7 +48,13 @@ Page Book(const char* screen) {
 } // namespace
 
 std::vector<Page> ReportsPages() {
-    return {Inventory(), Cost(), Book("BukuBank"), Book("BukuPiutang"), Book("BukuHutang")};
+    return {TradeReportPage("SalesReport"),
+            TradeReportPage("PurchasesReport"),
+            Inventory(),
+            Cost(),
+            Book("BukuBank"),
+            Book("BukuPiutang"),
+            Book("BukuHutang")};
 }
 
 } // namespace varnik::ui

@@ -29,6 +29,50 @@ const std::string CostRows =
 000000000600|2026-11-17|Warung|0000000009|25000|Lain-lain||
 )";
 
+// What customers owe on 22/11/2026: an invoice on each side of every bound, one of a later date, one paid, a
+// customer without any.
+const std::string ReceivableRows = R"(KodeCus|NamaCus|NoInvoice|TglInvoice@|Saldo#
+0000000001|CV Bangun Persada|000000012300|2026-10-23|100000
+0000000001|CV Bangun Persada|000000012200|2026-10-22|20000.50
+0000000001|CV Bangun Persada|000000012100|2026-09-23|3000
+0000000001|CV Bangun Persada|000000012000|2026-09-22|400
+0000000001|CV Bangun Persada|000000011900|2026-08-24|50
+0000000001|CV Bangun Persada|000000011800|2026-08-23|6
+0000000001|CV Bangun Persada|000000011700|2026-11-20|0
+0000000001|CV Bangun Persada|000000011600|2026-11-20|0.0000001
+0000000002|Toko Sinar|000000012500|2026-11-23|999999999999
+0000000002|Toko Sinar|000000012600|2026-11-22|-12500
+0000000003|Warung Bu Tini|||
+)";
+
+// Two customers, two categories and a product without one; the same product sold twice and more.
+const std::string SalesRows =
+    R"(KodeCus|NamaCus|KodeBrg|NamaBrg|Qty#|Satuan|Bruto#|Disc#|Netto#|PPN#|Total#|JenisProduk|JenisBrg
+0000000001|CV Bangun Persada|0000000001|Semen Portland 40 kg|12|SAK|780000|0|780000|70909.09|780000|Bahan|002
+0000000002|Toko Sinar|0000000001|Semen Portland 40 kg|40|SAK|2600000|130000|2470000|224545.45|2470000|Bahan|002
+0000000001|CV Bangun Persada|0000000002|Pasir beton dari Cimalaka, dicuci dan disaring, diantar sampai ke tempat pembangunan|2.5|M3|625000|45000.50|579999.50|52727.23|579999.50|Bahan|002
+0000000001|CV Bangun Persada|0000000003|Antar barang|1|KALI|50000|0|50000|4545.45|50000|Jasa|001
+0000000001|CV Bangun Persada|0000000009|Turbin air 400 kW|1|UNIT|999999999999|0|999999999999|0|999999999999||
+)";
+
+const std::string PurchaseRows =
+    R"(KodeSup|NamaSup|KodeBrg|NamaBrg|Qty#|Satuan|Bruto#|Disc#|Netto#|PPN|Total#|JenisProduk|JenisBrg
+0000000001|PT Pabrik Semen|0000000001|Semen Portland 40 kg|80|SAK|4640000|0|4640000||4640000|Bahan|002
+0000000001|PT Pabrik Semen|0000000001|Semen Portland 40 kg|40|SAK|2320000|20000|2300000||2300000|Bahan|002
+0000000002|CV Paku Jaya|0000000007|Paku 5 cm|12.5|KG|250000|0|250000||250000|Bahan|002
+)";
+
+const std::string ReturnedRows =
+    R"(KodeCus|NamaCus|KodeBrg|NamaBrg|Qty#|Satuan|Bruto|Disc#|Netto#|PPN#|Total2#|Ket2
+0000000001|CV Bangun Persada|0000000001|Semen Portland 40 kg|6|SAK||0|354545.45|35454.55|390000|RUSAK
+0000000002|Toko Sinar|0000000002|Pasir beton|0.5|M3||9000|105454.55|10545.45|116000|Salah kirim, diambil kembali
+)";
+
+// The parameters of a report that knows summary and detail.
+std::map<std::string, std::string> Form(const std::string& title, const std::string& detail) {
+    return {{"Judul", title}, {"SubJudul", "Date From 01/11/2026 To 30/11/2026"}, {"Detail", detail}};
+}
+
 const std::vector<Case> Cases = {
     {"Invoice",
      "Invoice.rpt",
@@ -120,6 +164,51 @@ const std::vector<Case> Cases = {
 4|2026-11-04|0000000001|Purchases return, torn bags|Semen Portland 40 kg|002|1|-3|0|85|-3
 5|2026-11-09|0000000001|Sales Returns No 000000000500|Semen Portland 40 kg|002|1|0|-6|91|0
 )"},
+    {"Agging", "Agging.rpt", {{"Judul", "Aged Receivables  NOVEMBER 2026"}}, ReceivableRows},
+    {"Agging2",
+     "Agging2.rpt",
+     {{"Judul", "Aged PayablesNOVEMBER 2026"}},
+     R"(KodeSup|NamaSup|NoFaktur|TglFaktur@|Saldo#
+0000000001|PT Pabrik Semen|000000004100|2026-08-23|999999999999
+0000000001|PT Pabrik Semen|000000004000|2026-08-24|1500000
+0000000002|CV Paku Jaya|||
+)"},
+    {"LapJual1", "LapJual1.rpt", Form("Sales Reports ( Product Category)", "D"), SalesRows},
+    {"LapJual1-summary", "LapJual1.rpt", Form("Sales Reports ( Product Category)", "S"), SalesRows},
+    {"LapJual2", "LapJual2.rpt", Form("Sales Reports ( Customer )", "D"), SalesRows},
+    {"LapJual2-summary", "LapJual2.rpt", Form("Sales Reports ( Customer )", "S"), SalesRows},
+    {"LapJual2-margin", "LapJual2.rpt", Form("Sales Reports ( Customer )", "D"),
+     R"(KodeCus|NamaCus|KodeBrg|NamaBrg|Qty#|Satuan|Bruto#|Disc#|Netto#|PPN#|Total#|JenisProduk|JenisBrg|THPP#|THPPRATA#|MARGIN#
+0000000001|CV Bangun Persada|0000000001|Semen Portland 40 kg|12|SAK|780000|0|780000|70909.09|780000|Bahan|002|696000|687006|84000
+0000000001|CV Bangun Persada|0000000009|Turbin air 400 kW|1|UNIT|999999999999|0|999999999999|0|999999999999|Mesin|004|900000000000.50|900000000000.50|99999999998.50
+)"},
+    {"LapInvoice",
+     "LapInvoice.rpt",
+     {{"Judul", "Date From 01/11/2026 To 30/11/2026"}},
+     R"(KodeCus|NamaCus|NoInvoice|TglInvoice@|Total#|Bayar#|Saldo#
+0000000002|Toko Sinar|000000012500|2026-11-23|999999999999.50|0|999999999999.50
+0000000001|CV Bangun Persada|000000012400|2026-11-24|580000|580000|0
+0000000001|CV Bangun Persada|000000012300|2026-11-22|1360000|500000|860000
+)"},
+    {"LapFaktur",
+     "LapFaktur.rpt",
+     {{"Judul", "Date From 01/11/2026 To 30/11/2026"}},
+     R"(KodeSup|NamaSup|NoFaktur|TglFaktur@|Total#|Bayar#|Saldo#
+0000000001|PT Pabrik Semen|000000004100|2026-11-02|4640000|4640000|0
+0000000001|PT Pabrik Semen|000000004200|2026-11-09|2320000|0|2320000
+)"},
+    {"LapReturJual2", "LapReturJual2.rpt", Form("Sales Returns History", "D"), ReturnedRows},
+    {"LapReturJual2-summary", "LapReturJual2.rpt", Form("Sales Returns History", "S"), ReturnedRows},
+    {"LapBeli1", "LapBeli1.rpt", Form("Purchases Reports ( Product Category)", "D"), PurchaseRows},
+    {"LapBeli2", "LapBeli2.rpt", Form("Purchases Reports ( Supplier )", "D"), PurchaseRows},
+    {"LapBeli2-summary", "LapBeli2.rpt", Form("Purchases Reports ( Supplier )", "S"), PurchaseRows},
+    {"LapReturBeli2", "LapReturBeli2.rpt", Form("Purchases Returns Reports", "D"),
+     R"(KodeSup|NamaSup|KodeBrg|NamaBrg|Qty#|Satuan|Bruto|Disc|Netto#|Total2#|JenisProduk|JenisBrg
+0000000001|PT Pabrik Semen|0000000001|Semen Portland 40 kg|3|SAK|||256000.50|174000||
+0000000001|PT Pabrik Semen|0000000002|Pasir beton|0.5|M3|||256000.50|82000.50||
+)"},
+    {"LapJual1-empty", "LapJual1.rpt", Form("Sales Reports ( Product Category)", "D"),
+     "KodeBrg|NamaBrg|Qty#|Total#"},
     {"LapBKK1", "LapBKK1.rpt", {{"Judul", "Periode 01/11/2026 To 30/11/2026"}}, CostRows},
     {"LapBKK2", "LapBKK2.rpt", {{"Judul", "Periode 01/11/2026 To 30/11/2026"}}, CostRows},
     {"BukuBank",
