@@ -318,27 +318,28 @@ void Walk::Press(forms::Screen& screen, forms::Control& control) {
     });
 }
 
-void Walk::TypeInto(forms::Screen& screen, forms::TextControl& field, const std::string& text) {
-    const int after = chance_.Below(4);
-    Act(screen.Name() + "." + field.Name() + ": types \"" + Shown(text) + "\"" + (after < 2 ? " Enter" : ""),
-        [&] {
-            tally.characters += static_cast<long>(text.size());
-            screen.MoveFocus(field);
-            if (field.Locked() || screen.Focused() != &field) return;
-            console::Keyboard& keyboard = desktop_->Keys();
-            keyboard.SelectAll(field);
-            if (text.size() > 100) { // pasted
-                field.Type(text);
-            } else {
-                if (text.empty()) keyboard.Press(screen, {.code = forms::KeyCode::Delete});
-                for (const forms::Key& key : console::PlainKeys(text)) {
-                    if (screen.Closed()) return;
-                    keyboard.Press(screen, key);
-                }
+void Walk::TypeInto(forms::Screen& screen, forms::TextControl& field, const std::string& text, Then then) {
+    static const std::vector<Then> possible = {Then::Enter, Then::Enter, Then::Tab, Then::Nothing};
+    if (then == Then::Anything) then = chance_.Of(possible);
+    const std::string leaving = then == Then::Enter ? " Enter" : then == Then::Tab ? " Tab" : "";
+    Act(screen.Name() + "." + field.Name() + ": types \"" + Shown(text) + "\"" + leaving, [&] {
+        tally.characters += static_cast<long>(text.size());
+        screen.MoveFocus(field);
+        if (field.Locked() || screen.Focused() != &field) return;
+        console::Keyboard& keyboard = desktop_->Keys();
+        keyboard.SelectAll(field);
+        if (text.size() > 100) { // pasted
+            field.Type(text);
+        } else {
+            if (text.empty()) keyboard.Press(screen, {.code = forms::KeyCode::Delete});
+            for (const forms::Key& key : console::PlainKeys(text)) {
+                if (screen.Closed()) return;
+                keyboard.Press(screen, key);
             }
-            if (after < 2 && !screen.Closed()) keyboard.Press(screen, {.code = forms::KeyCode::Enter});
-            if (after == 2 && !screen.Closed()) keyboard.Press(screen, {.code = forms::KeyCode::Tab});
-        });
+        }
+        if (then == Then::Enter && !screen.Closed()) keyboard.Press(screen, {.code = forms::KeyCode::Enter});
+        if (then == Then::Tab && !screen.Closed()) keyboard.Press(screen, {.code = forms::KeyCode::Tab});
+    });
 }
 
 // ---- What has to hold afterwards ----

@@ -16,6 +16,9 @@ struct Rights {
     bool add = true, change = true, remove = true;
 };
 
+// What follows a text that was typed.
+enum class Then { Anything, Enter, Tab, Nothing };
+
 struct Tally {
     long actions = 0, characters = 0, questions = 0, reports = 0, starts = 0, writes = 0;
     Tally& operator+=(const Tally& other);
@@ -38,9 +41,9 @@ public:
     // Closes everything, and looks at the file.
     void End();
 
-    // One field of an open screen: goes there, types, and does what follows a text: Enter, then every button
-    // that searches. Nothing for a field that a person cannot reach.
-    void TypeInto(forms::Screen& screen, forms::TextControl& field, const std::string& text);
+    // Goes to a field, types over its text, and leaves it. Nothing for a field that a person cannot reach.
+    void TypeInto(forms::Screen& screen, forms::TextControl& field, const std::string& text,
+                  Then then = Then::Anything);
     void Press(forms::Screen& screen, forms::Control& control);
     forms::Screen* Open(const std::string& key);
     // Runs it as one action of a person, with the bounds of one.
