@@ -9,6 +9,10 @@ if(VARNIK_SANITIZE)
     -fno-omit-frame-pointer)
   target_link_options(varnik_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(VARNIK_FUZZ)
+  target_compile_options(varnik_options INTERFACE -fsanitize=fuzzer-no-link,float-cast-overflow -Wno-error)
+  target_link_options(varnik_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # The standard headers that nearly every file uses, compiled once for all folders.
 file(WRITE ${CMAKE_BINARY_DIR}/pch.cpp "")

@@ -7,6 +7,8 @@
 namespace varnik::jet {
 namespace {
 
+constexpr std::size_t MostText = 256 * 1024; // of a rewritten statement, without its literals
+
 // Functions of the dialect: "$1", "$2", "$3" are the arguments; without a text the name stays.
 struct FunctionRule {
     std::string_view name;
@@ -63,6 +65,8 @@ Content ContentOfColumn(const Column& column) {
 } // namespace
 
 void ExpressionWriter::Write(std::string_view text) {
+    // Functions that repeat their argument double it with every one that stands within another.
+    if (output.size() > MostText) throw SyntaxError("The statement is too long.");
     if (!output.empty()) output += ' ';
     output += text;
 }

@@ -140,7 +140,7 @@ private:
         if (order < range.end) {
             Write("order");
             sorting = Piece([&] { expressions_.Expression(until(order), Use::Condition); });
-            if (Is(At(order + 1), "by") && sorting.size() > 3) sorting = sorting.substr(3);
+            if (Word(order + 1, "by") && sorting.size() > 3) sorting = sorting.substr(3);
         }
         if (single) single = SingleTable(until(from), plain);
         if (single) {

@@ -24,6 +24,11 @@ const std::vector<std::string> Intrusions = {
     "';\0DELETE FROM Produk"s,
     "' ; PRAGMA writable_schema = 1; --",
     "' ; ATTACH DATABASE 'x.db' AS x; --",
+    "' Or "
+    "right(right(right(right(right(right(right(right(right(right(right(right(right(right(right(right(right("
+    "right(right(right(right(right(right(right('',1),1),1),1),1),1),1),1),1),1),1),1),1),1),1),1),1),1),1),1)"
+    ",1),1)"
+    ",1),1)='",
 };
 
 namespace {
