@@ -1,5 +1,6 @@
 # The portable folder: the programs with Report/ and Help/, and in lib/ and plugins/ the libraries that a
-# machine without the toolkit lacks. What every desktop has and what belongs to its drivers stays the machine's.
+# machine without the toolkit lacks. What every desktop has and what belongs to its drivers and printers stays
+# the machine's.
 
 set(folder ${CMAKE_INSTALL_PREFIX})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${CPACK_VARNIK_BUILD} --prefix ${folder}
@@ -26,9 +27,9 @@ file(WRITE ${folder}/qt.conf "[Paths]\nPlugins = plugins\n")
 file(GET_RUNTIME_DEPENDENCIES
      EXECUTABLES ${folder}/varnik ${folder}/varnik-console MODULES ${present}
      RESOLVED_DEPENDENCIES_VAR libraries UNRESOLVED_DEPENDENCIES_VAR missing
-     PRE_EXCLUDE_REGEXES "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv)\\.so" "^lib(GL|GLX|EGL|OpenGL|GLdispatch)\\.so"
+     PRE_EXCLUDE_REGEXES "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv)\\.so" "^lib(GL|GLX|EGL|GLdispatch)\\.so"
                          "^libX11(-xcb)?\\.so" "^libxcb\\.so" "^libX(au|dmcp)\\.so" "^lib(fontconfig|freetype|expat|z)\\.so"
-                         "^libdrm" "^libgbm")
+                         "^libdrm" "^libgbm" "^libcups")
 if(missing)
   message(FATAL_ERROR "The portable folder lacks ${missing}")
 endif()

@@ -1,6 +1,11 @@
 # The .deb: the program's folder in lib/varnik, the programs in the path, and what a desktop shows of it.
 
-set(usr ${CMAKE_INSTALL_PREFIX})
+# cpack names the stage by DESTDIR here, which only some commands heed: paths below are whole.
+set(usr $ENV{DESTDIR}/usr)
+if(usr STREQUAL "/usr")
+  message(FATAL_ERROR "This is read by cpack alone.")
+endif()
+unset(ENV{DESTDIR})
 set(packaging ${CPACK_VARNIK_SOURCE}/packaging)
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${CPACK_VARNIK_BUILD} --prefix ${usr}/lib/varnik
                 OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)

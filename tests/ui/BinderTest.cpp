@@ -194,10 +194,12 @@ TEST_F(Binder, ColoursCanBeTold) {
         for (const QColor& ground : {c.window, c.card, c.lockedGround, c.zebra}) {
             EXPECT_GE(Contrast(c.text, ground), 4.5) << ground.name().toStdString();
             EXPECT_GE(Contrast(c.quietText, ground), 4.5) << ground.name().toStdString();
-            EXPECT_GE(Contrast(c.accent, ground), 3) << "the focus mark on " << ground.name().toStdString();
+            // Headings and totals, and more than the focus mark needs.
+            EXPECT_GE(Contrast(c.accent, ground), 4.5) << ground.name().toStdString();
         }
         EXPECT_GE(Contrast(c.text, c.selection), 4.5);
         EXPECT_GE(Contrast(c.accentText, c.accent), 4.5);
+        for (const QColor& sign : {c.danger, c.warning}) EXPECT_GE(Contrast(sign, c.window), 3);
     }
 }
 

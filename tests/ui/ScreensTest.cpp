@@ -63,10 +63,10 @@ void ExpectControlsAndWidgetsMatch(ui::ScreenWindow& window) {
 void ExpectNothingClipped(ui::ScreenWindow& window) {
     const std::string at = window.Screen().Name() + " at " + std::to_string(window.width()) + ": ";
     const int slack = 2; // places are whole numbers
+    // Hidden ones keep their place: panels take turns, and some open only while a document is entered.
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         const std::string name = at + widget->objectName().toStdString();
-        if (widget->window() != &window || widget->isHidden() ||
-            widget->parentWidget()->property("statusbar").toBool())
+        if (widget->window() != &window || widget->parentWidget()->property("statusbar").toBool())
             continue;
         if (const auto* table = qobject_cast<QTableView*>(widget)) {
             const QHeaderView& header = *table->horizontalHeader();
