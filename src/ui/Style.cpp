@@ -71,10 +71,6 @@ QPushButton[primary="true"]:hover { background: @accentDeep; }
 QPushButton[primary="true"]:focus { border: 2px solid @text; }
 QPushButton[primary="true"]:disabled { background: transparent; color: @faded; border-color: @fadedBorder; }
 
-QLineEdit[dense="true"], QComboBox[dense="true"], QDateEdit[dense="true"] { padding: 0 3px; }
-QPushButton[dense="true"] { padding: 0 5px; }
-QTableView[dense="true"] QHeaderView::section { padding: 1px 4px; }
-
 QCheckBox, QRadioButton { spacing: 7px; background: transparent; padding: 3px 2px; border: 1px solid transparent; border-radius: 4px; }
 QCheckBox:focus, QRadioButton:focus { border: 1px solid @accent; }
 QCheckBox::indicator, QRadioButton::indicator { width: 15px; height: 15px; border: 1px solid @quietText; background: @card; }
@@ -83,6 +79,12 @@ QRadioButton::indicator { border-radius: 8px; }
 QCheckBox::indicator:checked { background: @mark; border-color: @mark; image: url(:/icons/check-mark.svg); }
 QRadioButton::indicator:checked { background: @mark; border-color: @mark; image: url(:/icons/radio-dot.svg); }
 QCheckBox:disabled, QRadioButton:disabled { color: @quietText; }
+
+QLineEdit[dense="true"], QComboBox[dense="true"], QDateEdit[dense="true"] { padding: 0 3px; }
+QPushButton[dense="true"] { padding: 0 5px; }
+QTableView[dense="true"] QHeaderView::section { padding: 1px 4px; }
+QCheckBox[dense="true"], QRadioButton[dense="true"] { spacing: 3px; padding: 0; }
+QCheckBox[dense="true"]::indicator, QRadioButton[dense="true"]::indicator { width: 10px; height: 10px; }
 
 QTableView { background: @card; alternate-background-color: @zebra; color: @text; border: 1px solid @border;
     border-radius: 6px; gridline-color: @fadedBorder; selection-background-color: @selection; selection-color: @text; outline: none; }

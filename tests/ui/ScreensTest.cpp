@@ -66,8 +66,7 @@ void ExpectNothingClipped(ui::ScreenWindow& window) {
     // Hidden ones keep their place: panels take turns, and some open only while a document is entered.
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         const std::string name = at + widget->objectName().toStdString();
-        if (widget->window() != &window || widget->parentWidget()->property("statusbar").toBool())
-            continue;
+        if (widget->window() != &window || widget->parentWidget()->property("statusbar").toBool()) continue;
         if (const auto* table = qobject_cast<QTableView*>(widget)) {
             const QHeaderView& header = *table->horizontalHeader();
             for (int column = 0; column < header.count(); ++column) {

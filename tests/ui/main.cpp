@@ -9,9 +9,12 @@ int main(int argc, char** argv) {
     QLocale::setDefault(QLocale::c());
     QApplication application(argc, argv);
     varnik::ui::ApplyStyle(application, false);
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setPixelSize(14);
-    QApplication::setFont(font);
+    // Tests of how it looks stand on the letters of the program itself.
+    if (!qEnvironmentVariableIsSet("VARNIK_OWN_LETTERS")) {
+        QFont font(QStringLiteral("DejaVu Sans"));
+        font.setPixelSize(14);
+        QApplication::setFont(font);
+    }
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -21,7 +21,7 @@ Page Main() {
                 Heading("Varnik Ledger Suite").Title().Centred(),
                 Heading("Choose a screen in the menu: arrow keys and Enter, or a click").Quiet().Centred(),
                 Spring()}));
-    Node body = Row({Table("TV", 20).Label("Menu"), std::move(welcome).Share(2)}).Share(1).Padded();
+    Node body = Row({Table("TV", 21).Label("Menu"), std::move(welcome).Share(2)}).Share(1).Padded();
     return {"frmMainCode", Family::Main,
             Column({std::move(bar), std::move(body), Field("sbStatusBar").Label("Status")})};
 }
