@@ -34,6 +34,13 @@ void Show(QLineEdit& edit, const std::string& text) {
         edit.setCursorPosition(0);
 }
 
+// Setting a limit anew, even the same one, moves the cursor and forgets what could be undone.
+void Limit(QLineEdit& edit, int characters) {
+    constexpr int unlimited = 32767;
+    const int limit = characters > 0 ? characters : unlimited;
+    if (edit.maxLength() != limit) edit.setMaxLength(limit);
+}
+
 // The menu of a field. The toolkit's own would paste past the screen's filter: this one presses the keys.
 void OfferClipboard(QLineEdit& edit) {
     edit.setContextMenuPolicy(Qt::CustomContextMenu);
@@ -70,7 +77,7 @@ public:
     }
     void Refresh() override {
         const QScopedValueRollback<bool> quiet(refreshing_, true);
-        edit_->setMaxLength(box_.MaxLength() > 0 ? box_.MaxLength() : 32767);
+        Limit(*edit_, box_.MaxLength());
         Show(*edit_, box_.Text());
         edit_->setReadOnly(box_.Locked());
         edit_->setAlignment((box_.RightAligned() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
@@ -172,7 +179,7 @@ public:
             if (edit->hasFocus() && edit->cursorPosition() != caret)
                 edit->setCursorPosition(std::min(caret, int(edit->text().size())));
             edit->setReadOnly(box_.Locked());
-            if (box_.MaxLength() > 0) edit->setMaxLength(box_.MaxLength());
+            Limit(*edit, box_.MaxLength());
         } else {
             // A text that is no item shows all the same.
             const int index = box_.ListIndex();

@@ -99,7 +99,7 @@ QHeaderView::down-arrow { image: url(:/icons/chevron-down.svg); width: 11px; hei
 QLabel[note="true"] { background: @accent; color: @accentText; border-radius: 5px; padding: 3px 9px; }
 QTableCornerButton::section { background: @lockedGround; border: none; }
 QTreeView { background: @card; color: @text; border: 1px solid @border; border-radius: 6px; outline: none; padding: 4px; }
-QTreeView::item { padding: 1px 2px; border-radius: 4px; }
+QTreeView::item { padding: 0 2px; border-radius: 4px; }
 QTreeView::item:hover { background: @zebra; }
 QTreeView::item:selected { background: @selection; color: @text; }
 QTreeView::branch { background: transparent; }

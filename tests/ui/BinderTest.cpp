@@ -46,6 +46,22 @@ TEST_F(Binder, TypingGoesThroughTheScreenAndBack) {
     EXPECT_EQ(amount->text(), "5");
 }
 
+TEST_F(Binder, TypingInTheMiddleStaysThereAndCanBeUndone) {
+    auto* code = Find<QLineEdit>(sample, "code");
+    QTest::keyClicks(code, "ad");
+    QTest::keyClick(code, Qt::Key_Left);
+    QTest::keyClicks(code, "bc");
+    EXPECT_EQ(sample.code.Text(), "ABCD");
+    auto* amount = Find<QLineEdit>(sample, "amount");
+    sample.MoveFocus(sample.amount);
+    QTest::keyClicks(amount, "125");
+    QTest::keyClick(amount, Qt::Key_Home);
+    QTest::keyClicks(amount, "7");
+    EXPECT_EQ(amount->cursorPosition(), 1);
+    QTest::keyClick(amount, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(sample.amount.Text(), "125");
+}
+
 TEST_F(Binder, AFieldThatCallsTheFocusBackDoesNotBarTheButtons) {
     auto* code = Find<QLineEdit>(sample, "code");
     QTest::keyClicks(code, "bad");

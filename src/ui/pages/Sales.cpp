@@ -23,15 +23,15 @@ Page BayarPage() {
                                   {Field("txtTglJurnal", 15)},
                                   {Field("TxtCaraBayar", 15)},
                                   {AccountOfReceipt()},
-                                  {Field("TxtNamaPenerima", 40)},
-                                  {Field("TxtMemo", 40)}}));
+                                  {Field("TxtNamaPenerima")},
+                                  {Field("TxtMemo")}}));
     Node invoice = Card("", Form({{Field("TxtNoInvoice", 15)},
                                   {Field("TxtKodeCus", 15)},
                                   {Field("TxtNamaCus", 30)},
                                   {Field("TxtJumlah", 15)},
                                   {Field("txtDibayar", 15)},
                                   {Field("TxtSaldo", 15)}}));
-    return DialogPage("Bayar", Row({std::move(voucher), std::move(invoice)}),
+    return DialogPage("Bayar", Row({std::move(voucher).Share(1), std::move(invoice)}),
                       {"bttnSave", "bttnPrint", "bttnClose"});
 }
 
