@@ -143,8 +143,8 @@ Page DialogPage(std::string screen, Node content, std::vector<std::string> butto
 // What is reported at the left, a list of options in their frame ("" and none for a dialog of one report),
 // the choice at the right, Print and Cancel below.
 struct ReportDialogParts {
-    std::string kindsLabel, kindsFrame;
-    std::vector<std::string> kinds;
+    std::string kindsLabel = {}, kindsFrame = {};
+    std::vector<std::string> kinds = {};
     Node choice;
 };
 Page ReportDialogPage(std::string screen, ReportDialogParts parts);
