@@ -108,25 +108,38 @@ void TableModel::Narrow(const QString& text) {
     const bool further = !narrowed_.isEmpty() && text.startsWith(narrowed_);
     narrowed_ = text;
     if (further)
-        std::erase_if(order_, [&](int row) { return !HasText(row, text); });
+        KeepNarrowed();
     else
         Arrange();
     endResetModel();
 }
 
+void TableModel::KeepNarrowed() {
+    const QString text = narrowed_.toCaseFolded();
+    std::erase_if(order_, [&](int row) { return !texts_[static_cast<std::size_t>(row)].contains(text); });
+}
+
 void TableModel::Arrange() {
     order_.clear();
+    if (narrowed_.isEmpty()) texts_ = {};
     if (!Arranged()) return;
     order_.resize(static_cast<std::size_t>(rows_));
     std::iota(order_.begin(), order_.end(), 0);
-    if (!narrowed_.isEmpty()) std::erase_if(order_, [this](int row) { return !HasText(row, narrowed_); });
+    if (!narrowed_.isEmpty()) {
+        if (texts_.empty()) ReadTexts();
+        KeepNarrowed();
+    }
     if (sortColumn_ >= 0) Sort(order_);
 }
 
-bool TableModel::HasText(int row, const QString& text) const {
-    for (int column = 0; column < columns_; ++column)
-        if (ToQt(CellText(row, column)).contains(text, Qt::CaseInsensitive)) return true;
-    return false;
+// Every row once, so that the next letter costs no reading.
+void TableModel::ReadTexts() {
+    texts_.reserve(static_cast<std::size_t>(rows_));
+    for (int row = 0; row < rows_; ++row) {
+        std::string cells;
+        for (int column = 0; column < columns_; ++column) cells += CellText(row, column) + '\n';
+        texts_.push_back(ToQt(cells).toCaseFolded());
+    }
 }
 
 void TableModel::Sort(std::vector<int>& rows) const {

@@ -54,7 +54,8 @@ protected:
 
 private:
     void Arrange();
-    bool HasText(int row, const QString& text) const;
+    void ReadTexts();
+    void KeepNarrowed();
     void Sort(std::vector<int>& rows) const;
 
     const Regional& regional_;
@@ -63,7 +64,8 @@ private:
     int sortColumn_ = -1;
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
     QString narrowed_;
-    std::vector<int> order_; // the control's rows in the view's order, while it is arranged
+    std::vector<QString> texts_; // of all rows, while the list is narrowed
+    std::vector<int> order_;     // the control's rows in the view's order, while it is arranged
     QVariant headingFont_;
 };
 
