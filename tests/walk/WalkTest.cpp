@@ -19,15 +19,15 @@ TEST(Walks, EveryScreenBearsAnyInput) {
     EXPECT_GT(keys.size(), 15U);
     for (const std::string& key : keys) {
         Walk walk(Seed);
-        walk.On(key, 120);
+        walk.On(key, 60);
         walk.End();
-        EXPECT_GT(walk.tally.characters + walk.tally.questions + walk.tally.actions, 100) << key;
+        EXPECT_GE(walk.tally.actions, 60) << key;
         ExpectNothingFound(walk);
     }
 }
 
 TEST(Walks, AllScreensTogetherBearAnyInput) {
-    for (std::uint64_t seed = Seed; seed < Seed + 4; ++seed) {
+    for (std::uint64_t seed = Seed; seed < Seed + 2; ++seed) {
         Walk walk(seed);
         walk.Everywhere(250);
         walk.End();
