@@ -1,155 +1,131 @@
-// What the design promises, measured: posting a sale beside the bare loop of the same row writes, opening
-// the sales screen, the next number; each in a small shop and in a large one, in the same run. Prints
-// medians of several interleaved runs, then one table of ratios.
+// What the design promises, measured in made-up shops of several sizes, each beside the bare loop of the same
+// work in the same run. Prints medians of several interleaved runs in one table.
 //
-//     varnik-bench [--large=N] [--benchmark_...]     N sales in the large shop, 1,000,000 without it
+//     varnik-bench [--sizes=1000,100000,1000000] [--pdf=100000] [--repetitions=5] [--desktop-runs=5]
+//                  [--benchmark_filter=...]
+//
+// PDF files are written in the shops of that size alone; a filter leaves the desktop's part out.
 
-#include "bench/BenchShop.h"
+#include "bench/DesktopRun.h"
+#include "bench/KeptShop.h"
+#include "bench/Measures.h"
+#include "bench/Recorder.h"
+#include "common/Regional.h"
 
-#include <benchmark/benchmark.h>
+#include <QGuiApplication>
 
-#include <chrono>
 #include <cstdio>
-#include <map>
-#include <tuple>
+#include <cstdlib>
+#include <memory>
+#include <sstream>
 
 namespace varnik::bench {
 namespace {
 
-template <typename Work>
-double Seconds(Work&& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-// The console's usual table, and the medians kept by name.
-class KeepingMedians : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& run : runs)
-            if (run.aggregate_name == "median")
-                medians[run.run_name.function_name] = run.GetAdjustedRealTime();
-    }
-    std::map<std::string, double> medians; // milliseconds
+struct Options {
+    std::vector<long> sizes{1'000, 100'000, 1'000'000};
+    long pdf = 100'000;
+    int repetitions = 5, desktopRuns = 5;
+    bool filtered = false;
+    std::vector<char*> passed;
 };
 
-void Register(const std::string& name, BenchShop& shop, int iterations,
-              const std::function<double(BenchShop&)>& timed) {
-    benchmark::RegisterBenchmark(name.c_str(),
-                                 [&shop, timed](benchmark::State& state) {
-                                     for (auto _ : state) state.SetIterationTime(timed(shop));
-                                 })
-        ->UseManualTime()
-        ->Iterations(iterations)
-        ->Repetitions(7)
-        ->ReportAggregatesOnly()
-        ->Unit(benchmark::kMillisecond);
-}
-
-void RegisterShop(const std::string& size, BenchShop& shop) {
-    for (const int lines : {1, 10}) {
-        const std::string label = std::to_string(lines) + (lines == 1 ? " line, " : " lines, ") + size;
-        Register("post " + label, shop, 20, [lines](BenchShop& on) {
-            on.EnterSale(lines);
-            return Seconds([&] { on.Save(); });
-        });
-        Register("bare " + label, shop, 20, [lines](BenchShop& on) {
-            return Seconds([&] {
-                on.Bare().PostSale(lines);
-                on.Bare().Sync();
-            });
-        });
-        Register("bare unsynced " + label, shop, 20,
-                 [lines](BenchShop& on) { return Seconds([&] { on.Bare().PostSale(lines); }); });
+Options Read(int count, char** words) {
+    Options options;
+    for (int i = 0; i < count; ++i) {
+        const std::string word = words[i];
+        const auto value = [&](std::string_view name) {
+            return word.starts_with(name) ? word.substr(name.size()) : std::string();
+        };
+        if (const std::string sizes = value("--sizes="); !sizes.empty()) {
+            options.sizes.clear();
+            std::stringstream list(sizes);
+            for (std::string one; std::getline(list, one, ',');) options.sizes.push_back(std::stol(one));
+        } else if (const std::string pdf = value("--pdf="); !pdf.empty()) {
+            options.pdf = std::stol(pdf);
+        } else if (const std::string times = value("--repetitions="); !times.empty()) {
+            options.repetitions = std::stoi(times);
+        } else if (const std::string runs = value("--desktop-runs="); !runs.empty()) {
+            options.desktopRuns = std::stoi(runs);
+        } else {
+            options.filtered = options.filtered || word.starts_with("--benchmark_filter");
+            options.passed.push_back(words[i]);
+        }
     }
-    Register("open Invoice, " + size, shop, 20,
-             [](BenchShop& on) { return Seconds([&] { on.OpenAndClose("T01"); }); });
-    Register("list to its first page, " + size, shop, 1,
-             [](BenchShop& on) { return Seconds([&] { on.FirstPageOfSales(100'000); }); });
-    Register("next number, " + size, shop, 50,
-             [](BenchShop& on) { return Seconds([&] { benchmark::DoNotOptimize(on.NextNumber()); }); });
+    return options;
 }
 
-// The lists and records of the master screens; each on a screen that stays open.
-void RegisterMasters(const std::string& size, BenchShop& shop) {
-    for (const auto& [key, screen, code] :
-         {std::tuple{"F01", "fProduk", "0000000500"}, std::tuple{"F02", "fCustomer", "C000000500"}}) {
-        const std::string label = std::string(screen) + ", " + size;
-        Register("open " + label, shop, 5,
-                 [key](BenchShop& on) { return Seconds([&] { on.OpenAndClose(key); }); });
-        Register("search all, " + label, shop, 2,
-                 [key, screen](BenchShop& on) { return Seconds([&] { on.Search(key, screen); }); });
-        Register("save " + label, shop, 5, [key, screen, code](BenchShop& on) {
-            on.Edit(key, screen, code);
-            return Seconds([&] { on.SaveRecord(screen); });
-        });
+// What a process of its own prints: the value at the end of each line by what stands before it.
+void Gather(const std::string& command, std::map<std::string, std::vector<double>>& values) {
+    std::FILE* output = popen(command.c_str(), "r");
+    if (!output) throw std::runtime_error("cannot run " + command);
+    char line[200];
+    while (std::fgets(line, sizeof line, output)) {
+        const std::string text(line);
+        const auto blank = text.rfind(' ');
+        values[text.substr(0, blank)].push_back(std::stod(text.substr(blank)));
     }
-    Register("look-up of customers, " + size, shop, 2, [](BenchShop& on) {
-        on.PrepareLookUp();
-        return Seconds([&] { on.LookUpCustomers(); });
-    });
+    if (pclose(output) != 0) throw std::runtime_error("failed: " + command);
 }
 
-void Ratio(const std::map<std::string, double>& medians, const std::string& over, const std::string& under,
-           const std::string& goal) {
-    const auto a = medians.find(over), b = medians.find(under);
-    if (a == medians.end() || b == medians.end()) return; // left out by a filter
-    std::printf("%-28s %9.3f ms   against %-28s %9.3f ms   ratio %5.2f   goal %s\n", over.c_str(), a->second,
-                under.c_str(), b->second, a->second / b->second, goal.c_str());
+void MeasureDesktop(const std::string& self, const Options& options, const std::string& size,
+                    const std::filesystem::path& folder, std::vector<Sample>& samples) {
+    std::map<std::string, std::vector<double>> program, bare;
+    for (int run = 0; run < options.desktopRuns; ++run) {
+        Gather(self + " --desktop " + std::to_string(MonotonicNow()) + " " + folder.string(), program);
+        Gather(self + " --at-rest " + folder.string(), program);
+        Gather(self + " --empty-window " + std::to_string(MonotonicNow()), bare);
+    }
+    for (auto& [name, values] : program) {
+        if (name == "memory" || name == "own")
+            for (std::vector<double>* all : {&values, &bare[name]})
+                for (double& megabytes : *all) megabytes /= 1000; // the table shows thousandths
+        samples.push_back({name == "memory"  ? "desktop: memory at rest with five screens (MB)"
+                           : name == "own"   ? "desktop: of it the program's own (MB)"
+                           : name == "start" ? "desktop: start to login, beside an empty window"
+                                             : "desktop: " + name,
+                           size, values, bare[name]});
+    }
+}
+
+int Run(int count, char** words) {
+    Options options = Read(count, words);
+    ListenToConnections();
+    std::vector<std::unique_ptr<ShopCopy>> shops;
+    std::vector<std::unique_ptr<Floor>> floors;
+    std::vector<Measure> measures;
+    std::vector<Sample> desktop;
+    for (const long sales : options.sizes) {
+        shops.push_back(std::make_unique<ShopCopy>(sales));
+        const std::string size = FormatNumber(static_cast<double>(sales), "#,##0", {});
+        if (!options.filtered && options.desktopRuns > 0)
+            MeasureDesktop(words[0], options, size, shops.back()->Folder(), desktop);
+        floors.push_back(std::make_unique<Floor>(shops.back()->Folder()));
+        AddScreenMeasures(measures, *floors.back(), size);
+        if (sales <= options.pdf) AddReportMeasures(measures, *floors.back(), size, sales == options.pdf);
+    }
+    RunAndPrint(measures, options.repetitions, static_cast<int>(options.passed.size()),
+                options.passed.data());
+    Print(desktop);
+    return 0;
 }
 
 } // namespace
 } // namespace varnik::bench
 
-int main(int argc, char** argv) {
+int main(int count, char** words) {
     using namespace varnik::bench;
-    long large = 1000000;
-    std::vector<char*> passed;
-    std::string interleaved = "--benchmark_enable_random_interleaving=true";
-    for (int i = 0; i < argc; ++i) {
-        const std::string argument = argv[i];
-        if (argument.starts_with("--large="))
-            large = std::stol(argument.substr(8));
-        else
-            passed.push_back(argv[i]);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "*.debug=false");
+    try {
+        const std::string first = count > 1 ? words[1] : "";
+        if (first == "--desktop" && count == 4) return RunDesktop(words[3], std::stod(words[2]));
+        if (first == "--at-rest" && count == 3) return RunAtRest(words[2]);
+        if (first == "--empty-window" && count == 3) return RunEmptyWindow(std::stod(words[2]));
+        const QGuiApplication application(count, words); // for the letters of reports
+        return Run(count, words);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "varnik-bench: %s\n", failure.what());
+        return 1;
     }
-    passed.insert(passed.begin() + 1, interleaved.data());
-    int count = static_cast<int>(passed.size());
-    benchmark::Initialize(&count, passed.data());
-
-    BenchShop smallShop(1000);
-    std::printf("filling a shop of %ld sales ...\n", large);
-    std::fflush(stdout);
-    BenchShop largeShop(large);
-    RegisterShop("small", smallShop);
-    RegisterShop("large", largeShop);
-    BenchShop fewShop(1000);
-    BenchShop manyShop(1000, 100'000);
-    RegisterMasters("few", fewShop);
-    RegisterMasters("many", manyShop);
-    KeepingMedians reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-
-    std::printf("\n");
-    for (const std::string size : {"small", "large"}) {
-        Ratio(reporter.medians, "post 1 line, " + size, "bare 1 line, " + size, "-");
-        Ratio(reporter.medians, "post 10 lines, " + size, "bare 10 lines, " + size, "at most 2");
-        Ratio(reporter.medians, "post 10 lines, " + size, "bare unsynced 10 lines, " + size, "-");
-    }
-    Ratio(reporter.medians, "post 10 lines, large", "post 10 lines, small", "at most 1.3");
-    Ratio(reporter.medians, "open Invoice, large", "open Invoice, small", "flat, under 20 ms");
-    Ratio(reporter.medians, "list to its first page, large", "list to its first page, small",
-          "under 1000 ms at 100,000 rows");
-    Ratio(reporter.medians, "next number, large", "next number, small", "flat, under 20 ms");
-    for (const std::string screen : {"fProduk", "fCustomer"}) {
-        Ratio(reporter.medians, "open " + screen + ", many", "open " + screen + ", few", "flat, under 20 ms");
-        Ratio(reporter.medians, "search all, " + screen + ", many", "search all, " + screen + ", few",
-              "under 100 ms at 100,000 rows");
-        Ratio(reporter.medians, "save " + screen + ", many", "save " + screen + ", few", "flat");
-    }
-    Ratio(reporter.medians, "look-up of customers, many", "look-up of customers, few",
-          "under 100 ms at 100,000 rows");
-    return 0;
 }

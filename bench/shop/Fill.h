@@ -10,6 +10,8 @@ namespace varnik::bench {
 
 // Years end on this day, the day of the benchmarks and tests.
 void FillShop(const std::filesystem::path& database, long sales);
+// The same in a program folder that is made first, with all that a first start puts into it.
+void MakeShop(const std::filesystem::path& folder, long sales);
 
 // Changes when a filled shop is to look different: shops that are kept are told apart by it.
 inline constexpr int ShopVersion = 1;
