@@ -84,7 +84,7 @@ void CashVoucher::Move(document::Navigation::Move move) {
 }
 
 void CashVoucher::Serve(document::SearchPanel& panel) {
-    panel.onExecute = [this, &panel] { panel.Execute(Data(), services_.regional); };
+    panel.onExecute = [this, &panel] { panel.Execute(Data(), services_); };
     panel.onTake = [this, &panel] {
         constexpr int NumberColumn = 0;
         const std::string number = panel.Chosen(NumberColumn);

@@ -109,7 +109,7 @@ bool DocumentScreen::AsksForList(const forms::Key& key, const forms::TextBox& fi
 void DocumentScreen::OpenList(LookupList& list, const std::string& sql, forms::TextBox& field,
                               std::function<void()> picked) {
     ado::RowList rows;
-    Resume([&] { rows = ado::RowList(sql, connection_); });
+    Resume([&] { rows = ReadList(services_, sql, connection_); });
     list.Open(rows, services_.regional, field, [&field, picked](const std::string& code) {
         field.SetText(code);
         picked();

@@ -20,21 +20,23 @@ LookupList::LookupList(forms::Screen& screen) : ListGrid(screen, "GridCari") {
     };
 }
 
-void LookupList::Open(std::vector<std::string> rows, forms::Control& back, Take take) {
-    SetItems(std::move(rows));
+void LookupList::Open(const ado::RowList& rows, Line line, forms::Control& back, Take take) {
+    SetSource(rows.Count(), [rows, line = std::move(line)](int index) {
+        std::string text;
+        Resume([&] {
+            const std::vector<Value> row = rows.Row(index);
+            if (!row.empty()) text = line(row);
+        });
+        return text;
+    });
     Show(back, std::move(take));
 }
 
 void LookupList::Open(const ado::RowList& rows, const Regional& regional, forms::Control& back, Take take) {
-    SetSource(rows.Count(), [rows, &regional](int index) {
-        std::string line;
-        Resume([&] {
-            const std::vector<Value> row = rows.Row(index);
-            if (!row.empty()) line = NullToText(row[0], regional) + '\t' + NullToText(row[1], regional);
-        });
-        return line;
-    });
-    Show(back, std::move(take));
+    const Line line = [&regional](const std::vector<Value>& row) {
+        return NullToText(row[0], regional) + '\t' + NullToText(row[1], regional);
+    };
+    Open(rows, line, back, std::move(take));
 }
 
 void LookupList::Show(forms::Control& back, Take take) {

@@ -15,10 +15,12 @@ class LookupList : public forms::ListGrid {
 public:
     explicit LookupList(forms::Screen& screen);
 
-    // Shows the rows, "code<tab>name" each; `take` gets the code without blanks. Back goes the focus.
+    // Shows the rows of a statement, read as they are looked at; `line` makes "code<tab>name" of one, `take`
+    // gets the code without blanks. Back goes the focus.
+    using Line = std::function<std::string(const std::vector<Value>& row)>;
     using Take = std::function<void(const std::string& code)>;
-    void Open(std::vector<std::string> rows, forms::Control& back, Take take);
-    // The same with the first two columns of a statement's rows, read as they are shown.
+    void Open(const ado::RowList& rows, Line line, forms::Control& back, Take take);
+    // The same with the first two columns.
     void Open(const ado::RowList& rows, const Regional& regional, forms::Control& back, Take take);
 
 private:

@@ -48,29 +48,30 @@ std::string SearchPanel::Statement() const {
     return statement;
 }
 
-void SearchPanel::Execute(ado::Connection& connection, const Regional& regional) {
-    std::vector<std::string> list;
-    const auto search = [&] {
-        ado::Recordset rows(Statement(), connection, ado::CursorType::Static);
-        const int columns = static_cast<int>(layout_.columns.size());
-        for (; !rows.Eof(); rows.MoveNext()) {
-            std::string line;
-            for (int column = 0; column < columns; ++column) {
-                const Value value = rows[column];
-                if (column > 0) line += '\t';
-                const bool amount =
-                    layout_.columns[static_cast<std::size_t>(column)].align == forms::Align::Right;
-                line += amount ? FormatNumber(NullToNumber(value, regional), layout_.mask, regional)
-                               : NullToText(value, regional);
-            }
-            list.push_back(std::move(line));
-        }
-    };
-    if (layout_.failsAloud)
-        search();
-    else
-        Resume(search);
-    grid_.SetItems(std::move(list));
+void SearchPanel::Execute(ado::Connection& connection, Services& services) {
+    ado::RowList rows;
+    try {
+        rows = ReadList(services, Statement(), connection);
+    } catch (const ado::DataError& failure) {
+        if (failure.Number() == ado::Stopped) return;
+        if (layout_.failsAloud) throw;
+    }
+    grid_.SetSource(rows.Count(), [this, rows, &regional = services.regional](int index) {
+        std::string line;
+        Resume([&] { line = Line(rows.Row(index), regional); });
+        return line;
+    });
+}
+
+std::string SearchPanel::Line(const std::vector<Value>& row, const Regional& regional) const {
+    std::string line;
+    for (std::size_t column = 0; column < std::min(layout_.columns.size(), row.size()); ++column) {
+        if (column > 0) line += '\t';
+        const bool amount = layout_.columns[column].align == forms::Align::Right;
+        line += amount ? FormatNumber(NullToNumber(row[column], regional), layout_.mask, regional)
+                       : NullToText(row[column], regional);
+    }
+    return line;
 }
 
 } // namespace varnik::document

@@ -2,7 +2,7 @@
 // frmCari: the panel that finds documents by one of a few criteria. The statement is joined from what the
 // screen selects and the chosen condition around the typed value, as it is typed.
 
-#include "platform/ado/Ado.h"
+#include "platform/desktop/Services.h"
 #include "platform/forms/Controls.h"
 #include "platform/forms/Grid.h"
 
@@ -46,8 +46,8 @@ public:
     void Open();
     void Close() { frame_.SetVisible(false); }
     // Runs the chosen search. A statement that fails (a date that is none, a quote) lists nothing, and goes
-    // to the screen's report where the layout says so.
-    void Execute(ado::Connection& connection, const Regional& regional);
+    // to the screen's report where the layout says so. One that the person stops leaves the list as it was.
+    void Execute(ado::Connection& connection, Services& services);
     // A column of the chosen row, "" when there is none.
     std::string Chosen(int column) const { return grid_.Cell(grid_.Row(), column); }
 
@@ -56,6 +56,7 @@ public:
 
 private:
     std::string Statement() const;
+    std::string Line(const std::vector<Value>& row, const Regional& regional) const;
 
     SearchLayout layout_;
     forms::Frame frame_;

@@ -20,7 +20,7 @@ void MasterScreen::Has(MasterSearch& search) {
 void MasterScreen::ExecuteSearch() {
     const std::string statement = search_->Statement(*row_.search, Number(search_->txtValue));
     ado::RowList rows;
-    Resume([&] { rows = ado::RowList(statement, connection_); });
+    Resume([&] { rows = ReadList(services_, statement, connection_); });
     search_->grdCari.SetSource(rows.Count(), [this, rows](int row) {
         std::string line;
         Resume([&] {

@@ -105,9 +105,9 @@ BayarFaktur::BayarFaktur(Services& services)
         if (!Browsing()) lines_.TakeBack();
     };
     Command1.onClick = [this] { frmCari.Open(); };
-    frmCari.onExecute = [this] { frmCari.Execute(Data(), services_.regional); };
+    frmCari.onExecute = [this] { frmCari.Execute(Data(), services_); };
     frmCari.onTake = [this] { TakePurchase(); };
-    FrmCari2.onExecute = [this] { FrmCari2.Execute(Data(), services_.regional); };
+    FrmCari2.onExecute = [this] { FrmCari2.Execute(Data(), services_); };
     FrmCari2.onTake = [this] { TakePayment(); };
 }
 

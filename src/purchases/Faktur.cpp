@@ -92,7 +92,7 @@ Faktur::Faktur(Services& services)
     bttnSearchProduct.onClick = [this] { ListProducts(); };
 
     OrderGrid.onClick = [this] { OpenRow(); };
-    frmCari.onExecute = [this] { frmCari.Execute(Data(), services_.regional); };
+    frmCari.onExecute = [this] { frmCari.Execute(Data(), services_); };
     frmCari.onTake = [this] { TakeFound(); };
 }
 

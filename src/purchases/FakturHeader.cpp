@@ -58,20 +58,23 @@ void Faktur::ShowSupplier(ado::Recordset& supplier) {
 void Faktur::NameLeft() {
     const std::string name = supplier_.TxtNamaSup.Text();
     if (Browsing() || GridCari.Visible() || Trim(name).empty()) return;
-    ado::Recordset supplier, alike;
+    ado::Recordset supplier;
     if (Found(supplier, "Select * from Supplier Where NamaSup='" + name + "'")) {
         ShowSupplier(supplier);
         return;
     }
-    if (!Found(alike, "Select * from Supplier Where NamaSup Like '%" + name + "%' Order By NamaSup,KodeSup "))
-        return;
-    std::vector<std::string> rows, codes;
-    for (; !alike.Eof(); alike.MoveNext()) {
-        codes.push_back(TextOf(alike["KodeSup"]));
-        rows.push_back(codes.back() + "." + TextOf(alike["NamaSup"]));
-    }
-    GridCari.Open(std::move(rows), supplier_.TxtKodeSup, [this, codes](const std::string&) {
-        supplier_.TxtKodeSup.SetText(codes[static_cast<std::size_t>(GridCari.Row())]);
+    ado::RowList alike;
+    Resume([&] {
+        alike = ReadList(
+            services_, "Select * from Supplier Where NamaSup Like '%" + name + "%' Order By NamaSup,KodeSup ",
+            Data());
+    });
+    if (alike.Count() == 0) return;
+    const auto line = [this](const std::vector<Value>& row) { return TextOf(row[0]) + "." + TextOf(row[1]); };
+    GridCari.Open(alike, line, supplier_.TxtKodeSup, [this, alike](const std::string&) {
+        const std::vector<Value> row = alike.Row(GridCari.Row());
+        if (row.empty()) return; // deleted meanwhile
+        supplier_.TxtKodeSup.SetText(TextOf(row[0]));
         SupplierLeft();
         SetFocus(OrderGrid);
     });

@@ -104,9 +104,9 @@ BayarInvoice::BayarInvoice(Services& services)
         if (!Browsing()) lines_.TakeBack();
     };
     Command1.onClick = [this] { frmCari.Open(); };
-    frmCari.onExecute = [this] { frmCari.Execute(Data(), services_.regional); };
+    frmCari.onExecute = [this] { frmCari.Execute(Data(), services_); };
     frmCari.onTake = [this] { TakeInvoice(); };
-    FrmCari2.onExecute = [this] { FrmCari2.Execute(Data(), services_.regional); };
+    FrmCari2.onExecute = [this] { FrmCari2.Execute(Data(), services_); };
     FrmCari2.onTake = [this] { TakeReceipt(); };
 }
 

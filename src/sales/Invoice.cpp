@@ -91,7 +91,7 @@ Invoice::Invoice(Services& services)
 
     OrderGrid.onDoubleClick = [this] { TakeLineBack(); };
     bttnBayar.onClick = [this] { OpenReceipt(); };
-    frmCari.onExecute = [this] { frmCari.Execute(Data(), services_.regional); };
+    frmCari.onExecute = [this] { frmCari.Execute(Data(), services_); };
     frmCari.onTake = [this] { TakeFound(); };
 }
 
@@ -291,12 +291,15 @@ void Invoice::NameLeft() {
         return;
     }
     constexpr int CodeWidth = 15;
-    ado::Recordset alike;
-    if (!Found(alike, "Select * from Customer Where NamaCus Like '%" + name + "%'")) return;
-    std::vector<std::string> rows;
-    for (; !alike.Eof(); alike.MoveNext())
-        rows.push_back(PadRight(TextOf(alike["KodeCus"]), CodeWidth) + '\t' + TextOf(alike["NamaCus"]));
-    GridCari.Open(std::move(rows), TxtKodeCus, [this](const std::string& code) {
+    ado::RowList alike;
+    Resume([&] {
+        alike = ReadList(services_, "Select * from Customer Where NamaCus Like '%" + name + "%'", Data());
+    });
+    if (alike.Count() == 0) return;
+    const auto line = [this](const std::vector<Value>& row) {
+        return PadRight(TextOf(row[0]), CodeWidth) + '\t' + TextOf(row[2]);
+    };
+    GridCari.Open(alike, line, TxtKodeCus, [this](const std::string& code) {
         TxtKodeCus.SetText(code);
         CustomerLeft();
     });

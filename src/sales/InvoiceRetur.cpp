@@ -127,9 +127,9 @@ InvoiceRetur::InvoiceRetur(Services& services)
     line_.BatalLine.onClick = [this] { CancelLine(); };
     OrderGrid.onClick = [this] { OpenRow(); };
     bttnSearch.onClick = [this] { frmCari.Open(); };
-    frmCari.onExecute = [this] { frmCari.Execute(Data(), services_.regional); };
+    frmCari.onExecute = [this] { frmCari.Execute(Data(), services_); };
     frmCari.onTake = [this] { TakeInvoice(); };
-    FrmCari2.onExecute = [this] { FrmCari2.Execute(Data(), services_.regional); };
+    FrmCari2.onExecute = [this] { FrmCari2.Execute(Data(), services_); };
     FrmCari2.onTake = [this] { TakeRetur(); };
 }
 

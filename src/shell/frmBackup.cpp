@@ -11,12 +11,12 @@ namespace {
 constexpr const char* Filter = "Backup files (*.bck) |*.bck|";
 
 // The hourglass for the time of a copy.
-class Waiting {
+class HourglassShown {
 public:
-    explicit Waiting(Desktop& desktop) : desktop_(desktop) { desktop_.Hourglass(true); }
-    ~Waiting() { desktop_.Hourglass(false); }
-    Waiting(const Waiting&) = delete;
-    Waiting& operator=(const Waiting&) = delete;
+    explicit HourglassShown(Desktop& desktop) : desktop_(desktop) { desktop_.Hourglass(true); }
+    ~HourglassShown() { desktop_.Hourglass(false); }
+    HourglassShown(const HourglassShown&) = delete;
+    HourglassShown& operator=(const HourglassShown&) = delete;
 
 private:
     Desktop& desktop_;
@@ -33,7 +33,7 @@ void frmBackup::BackUpClick() {
     const auto name = Desk().SaveFile("Back Up", Filter);
     if (!name) return;
     const bool copied = Reported(Desk(), [&] {
-        const Waiting waiting(Desk());
+        const HourglassShown waiting(Desk());
         data::BackUp(services_, MatchPath(*name));
     });
     if (copied) Say("Backup Completed!!");
@@ -43,7 +43,7 @@ void frmBackup::RestoreClick() {
     const auto name = Desk().OpenFile("Restore", Filter);
     if (!name || !Ask("Are you sure you want to restore the database")) return;
     const bool restored = Reported(Desk(), [&] {
-        const Waiting waiting(Desk());
+        const HourglassShown waiting(Desk());
         data::Restore(services_, MatchPath(*name));
     });
     if (restored) Say("Database has been fully restored!!");

@@ -203,7 +203,14 @@ void QtDesktop::Quit() {
 
 void QtDesktop::LaunchReport(const ReportRequest& request) {
     if (!services_) throw ado::DataError(0, "There are no reports here.");
-    auto* preview = new PreviewWindow(reports::OpenReport(request, *services_));
+    std::unique_ptr<reports::Report> report;
+    try {
+        report = reports::OpenReport(request, *services_);
+    } catch (const ado::DataError& failure) {
+        if (failure.Number() == ado::Stopped) return; // by the person: there is nothing to tell
+        throw;
+    }
+    auto* preview = new PreviewWindow(std::move(report));
     preview->setWindowIcon(QIcon(QStringLiteral(":/icons/logo.svg")));
     std::erase_if(previews_, [](const QPointer<QWidget>& known) { return !known; });
     previews_.emplace_back(preview);

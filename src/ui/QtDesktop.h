@@ -42,6 +42,7 @@ public:
     void ArrangeWindows(int code) override;
     void DragMainWindow() override;
 
+    std::unique_ptr<Waiting> Wait(const std::string& doing) override;
     void LaunchReport(const ReportRequest& request) override;
     bool OpenWithShell(const std::string& target) override;
     void Hourglass(bool on) override;

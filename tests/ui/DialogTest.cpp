@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QProgressDialog>
 #include <QTemporaryDir>
 
 namespace varnik::test {
@@ -36,6 +37,20 @@ TEST_F(Dialogs, ANameToSaveUnderGetsTheEndingOfTheFilter) {
     EXPECT_EQ(desktop.SaveFile("Back Up", Filter), path.toStdString() + ".old");
     Meet(path, Qt::Key_Escape);
     EXPECT_EQ(desktop.SaveFile("Back Up", Filter), std::nullopt);
+}
+
+// Short work shows nothing; what takes longer shows what is done, and can be stopped.
+TEST_F(Dialogs, LongWorkShowsAndIsStopped) {
+    const std::unique_ptr<Waiting> waiting = desktop.Wait("Looking for rows ...");
+    EXPECT_TRUE(waiting->GoOn());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    const auto bar = [] { return qobject_cast<QProgressDialog*>(QApplication::activeModalWidget()); };
+    while (waiting->GoOn() && !bar()) continue;
+    ASSERT_NE(bar(), nullptr);
+    EXPECT_EQ(bar()->labelText(), "Looking for rows ...");
+    QTest::keyClick(bar(), Qt::Key_Escape);
+    while (waiting->GoOn()) continue;
+    EXPECT_FALSE(waiting->GoOn());
 }
 
 } // namespace

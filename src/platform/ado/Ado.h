@@ -47,6 +47,11 @@ inline constexpr long CannotChange = 3251;           // rows of a join or a stor
 inline constexpr long ConstraintFault = -2147217887; // required, size, key
 inline constexpr long EngineFault = -2147467259;     // cannot open, read-only, full, locked, not a database
 
+inline constexpr long Stopped = -2147217842; // long reading, by the person
+
+// Asked now and then while many rows are read; false stops the reading, which fails as Stopped.
+using GoOn = std::function<bool()>;
+
 // Quotient of two numbers; error 11 when the divisor is 0.
 double Divide(double dividend, double divisor);
 
@@ -157,12 +162,12 @@ private:
 };
 
 // The rows of a statement, counted at once and read one by one as they are asked for: a list of 100,000
-// rows costs what is looked at. Rows of one table are read as they stand at that moment; those of joins and
-// stored queries are read once.
+// rows costs what is looked at. Rows of one table, and of a stored query that joins tables, are read as they
+// stand at that moment; those of all else are read once.
 class RowList {
 public:
     RowList() = default;
-    RowList(std::string_view sql, Connection& connection);
+    RowList(std::string_view sql, Connection& connection, const GoOn& goOn = {});
 
     int Count() const;
     // Counted from 0; empty for a row that has been deleted since. DataError once the connection is closed.
@@ -172,6 +177,11 @@ private:
     struct Impl;
     std::shared_ptr<const Impl> impl_; // copies are the same list
 };
+
+// The rows of a statement in one go, for what needs them all: the names of the columns first, then each row.
+void ReadRows(std::string_view sql, Connection& connection,
+              const std::function<void(std::vector<std::string> names)>& begin,
+              const std::function<void(const std::vector<varnik::Value>& row)>& take, const GoOn& goOn = {});
 
 // Syncs what open connections wrote to the databases' logs and no close has synced yet: called when an
 // action has ended on a connection that stays open.

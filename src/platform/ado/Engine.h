@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -27,7 +28,8 @@ enum class Fault {
     NotDatabase,
     Damaged,
     CannotOpen,
-    Input, // reading or writing the file failed
+    Interrupted, // by whoever watches
+    Input,       // reading or writing the file failed
     Other
 };
 
@@ -74,6 +76,8 @@ public:
     virtual std::int64_t ForeignChanges() = 0;
     // What was committed survives a power cut once this returns.
     virtual void Sync() = 0;
+    // Asked every so many machine steps of a statement while it runs; false stops it. Null asks nobody.
+    virtual void Watch(std::function<bool()> goOn) = 0;
     virtual void Surround(EngineCallbacks* callbacks, int busyTimeoutMs) = 0;
     // Machine steps of all statements so far; for tests of how much is read.
     virtual std::int64_t Steps() const = 0;

@@ -60,6 +60,8 @@ DataError Explain(const EngineError& error, const std::filesystem::path& file, c
         if (detail == "exists") return {EngineFault, "The file " + name + " exists already."};
         return {EngineFault,
                 "The database " + name + " cannot be opened: there is no access to the file or its folder."};
+    case Fault::Interrupted:
+        return {Stopped, "The reading was stopped."};
     case Fault::Input:
         return {EngineFault, "Reading or writing the database " + name + " failed: " + detail + "."};
     case Fault::Other:

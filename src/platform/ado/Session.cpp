@@ -47,6 +47,7 @@ void Session::Surround(const Environment& environment) {
         forms_.Clear();
         compiled_.Clear();
         inserts_.clear();
+        joined_.clear();
     }
     environment_ = &environment;
     engine_->Surround(this, environment.busyTimeoutMs);
@@ -67,6 +68,23 @@ std::string WalkOf(const jet::Table& table, const jet::Column& column) {
 }
 
 } // namespace
+
+const JoinedQuery* Session::FindJoinedQuery(const std::string& name) {
+    const auto [at, fresh] = joined_.try_emplace(name);
+    if (fresh) {
+        const std::unique_ptr<EngineStatement> read =
+            engine_->Compile("select sql from sqlite_master where type = 'view' and name = ? collate nocase");
+        read->Bind(1, name);
+        Value text;
+        if (read->Step()) read->Read(0, text);
+        // The query stands behind "CREATE VIEW name AS".
+        const std::string definition = text.IsText() ? text.Text() : "";
+        const std::size_t begin = Upper(definition).find("SELECT");
+        if (begin != std::string::npos)
+            at->second = ReadJoinedQuery(std::string_view(definition).substr(begin), environment_->catalog);
+    }
+    return at->second ? &*at->second : nullptr;
+}
 
 bool Session::HasIndex(const jet::Table& table, const jet::Column& firstColumn) {
     const auto text = [](std::string_view name) { return "'" + std::string(name) + "'"; };
@@ -130,6 +148,7 @@ void Session::RunNative(std::string_view script) {
     forms_.Clear();
     compiled_.Clear();
     inserts_.clear();
+    joined_.clear();
     engine_->Run(script);
     ++state_->writes;
     state_->unsynced = true;

@@ -5,6 +5,7 @@
 #include "platform/ado/ColumnRule.h"
 #include "platform/ado/Engine.h"
 #include "platform/ado/Errors.h"
+#include "platform/ado/JoinedQuery.h"
 #include "platform/jet/Translate.h"
 
 #include <list>
@@ -107,6 +108,23 @@ public:
     std::shared_ptr<Compiled> CompileInsert(const jet::Table& table);
     // Runs a writing statement; the rows it changed.
     long Write(Running& running);
+    // Runs the body while somebody may stop it. What wants to read through the session meanwhile, a window
+    // that is painted while the person is asked, finds it watched and reads nothing.
+    template <typename Body>
+    void Watched(const GoOn& goOn, Body body) {
+        if (!goOn) return body();
+        struct End {
+            Session& session;
+            ~End() {
+                session.engine_->Watch(nullptr);
+                session.watched_ = false;
+            }
+        } const end{*this};
+        watched_ = true;
+        engine_->Watch(goOn);
+        body();
+    }
+    bool IsWatched() const { return watched_; }
     void RunNative(std::string_view script); // forgets what was compiled
     void Sync();                             // when something was written and not synced yet
     Engine& Native() { return *engine_; }
@@ -117,6 +135,8 @@ public:
         return Explained(file_, environment_->catalog, body);
     }
 
+    // A stored query by its name; null when its rows cannot be found again one by one.
+    const JoinedQuery* FindJoinedQuery(const std::string& name);
     bool HasIndex(const jet::Table& table, const jet::Column& firstColumn);
     Value AsStored(const Value& value, std::size_t table, std::size_t column) override;
     Value ReadNumber(const Value& value) override;
@@ -131,7 +151,9 @@ private:
     RecentlyUsed<const jet::Form> forms_{256};
     RecentlyUsed<Compiled> compiled_{256};
     std::unordered_map<const jet::Table*, std::shared_ptr<Compiled>> inserts_;
+    std::unordered_map<std::string, std::optional<JoinedQuery>> joined_; // by name, as they were met
     Statistics statistics_;
+    bool watched_ = false;
 };
 
 // A session for the file, an idle one when there is one. Give it back by ReturnSession.

@@ -40,6 +40,8 @@ Fault FaultOf(int code, std::string& message) {
     case SQLITE_PERM:
     case SQLITE_AUTH:
         return Fault::CannotOpen;
+    case SQLITE_INTERRUPT:
+        return Fault::Interrupted;
     case SQLITE_IOERR:
         return Fault::Input;
     case SQLITE_ERROR:
@@ -189,6 +191,15 @@ public:
         const int code = log->pMethods->xSync(log, SQLITE_SYNC_NORMAL);
         if (code != SQLITE_OK) ThrowSqliteError(database_, code);
     }
+    void Watch(std::function<bool()> goOn) override {
+        constexpr int Steps = 20000; // about a millisecond
+        goOn_ = std::move(goOn);
+        const auto ask = [](void* engine) { return static_cast<SqliteEngine*>(engine)->goOn_() ? 0 : 1; };
+        if (goOn_)
+            sqlite3_progress_handler(database_, Steps, ask, this);
+        else
+            sqlite3_progress_handler(database_, 0, nullptr, nullptr);
+    }
     void Surround(EngineCallbacks* callbacks, int busyTimeoutMs) override {
         context_.callbacks = callbacks;
         sqlite3_busy_timeout(database_, busyTimeoutMs);
@@ -208,6 +219,7 @@ public:
 private:
     sqlite3* database_;
     SqliteContext context_;
+    std::function<bool()> goOn_;
     std::unique_ptr<EngineStatement> version_;
 };
 

@@ -31,6 +31,13 @@ struct Box {
     Buttons buttons = Buttons::Ok;
 };
 
+// Long work under way. It is asked now and then whether it is to go on.
+class Waiting {
+public:
+    virtual ~Waiting() = default;
+    virtual bool GoOn() { return true; } // false when the person stopped it
+};
+
 class Desktop {
 public:
     virtual ~Desktop() = default;
@@ -53,6 +60,10 @@ public:
     virtual void PopUp(forms::Menu& menu, forms::Control& below) = 0;
     virtual void ArrangeWindows(int code) = 0; // 0 cascade, 1 and 2 tile, 3 icons
     virtual void DragMainWindow() = 0;         // follows the pressed mouse; nothing while maximised
+
+    // For as long as it lives, work is under way that may take a while: after a moment the person sees what
+    // is being done and can stop it. Nobody is asked where there is no person.
+    virtual std::unique_ptr<Waiting> Wait(const std::string& doing);
 
     // Opens a preview. DataError when the definition is missing or a formula is broken.
     virtual void LaunchReport(const ReportRequest& request) = 0;

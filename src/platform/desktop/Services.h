@@ -33,6 +33,9 @@ struct Services {
     std::map<std::string, ScreenEntry> screens{}; // by menu key ("T01") or menu item ("mnuToolUser")
 };
 
+// The rows of a list. One that takes long the person may stop: DataError Stopped.
+ado::RowList ReadList(Services& services, const std::string& sql, ado::Connection& connection);
+
 // Opens the screen of a key modeless, or brings the open one to the front. A key whose screen is not built
 // says so in a message and does nothing else.
 void OpenScreen(Services& services, const std::string& key, const std::string& caption);

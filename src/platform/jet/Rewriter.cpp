@@ -142,8 +142,7 @@ private:
             sorting = Piece([&] { expressions_.Expression(until(order), Use::Condition); });
             if (Word(order + 1, "by") && sorting.size() > 3) sorting = sorting.substr(3);
         }
-        if (single) single = SingleTable(until(from), plain);
-        if (single) {
+        if (single && (SingleTable(until(from), plain) || SingleQuery(until(from), plain))) {
             plain->columns = columns;
             plain->from = tables;
             plain->where = condition;
@@ -248,6 +247,13 @@ private:
         if (next < from.end && IsName(next) && !IsJoinWord(next)) ++next;
         if (table == nullptr || next < from.end) return false;
         plain->singleTable = table->name;
+        return true;
+    }
+
+    bool SingleQuery(Range from, Statement* plain) const {
+        if (from.end - from.begin != 1 || !IsName(from.begin) || catalog_.FindTable(At(from.begin).text))
+            return false;
+        plain->singleQuery = At(from.begin).text;
         return true;
     }
 

@@ -22,6 +22,8 @@ struct Statement {
     // The one base table of a plain "SELECT ... FROM table [WHERE ...] [ORDER BY ...]"; empty for joins,
     // stored queries, grouping and aggregates. Its pieces follow, without their keywords.
     std::string singleTable;
+    // The same where the one name of the FROM is no table of the catalog: a stored query.
+    std::string singleQuery;
     std::string columns, from, where, order;
     bool hasOrder = false;
     // Of "SELECT column FROM table GROUP BY column" over a text column: the list of what was ever entered.

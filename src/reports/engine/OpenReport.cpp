@@ -20,25 +20,25 @@ std::filesystem::path ReportFolder(const std::string& reportFileName, std::strin
     return folder;
 }
 
-Rows Read(const std::string& sql, ado::Connection& connection) {
-    ado::Recordset recordset(sql, connection, ado::CursorType::Static);
-    std::vector<std::string> names;
-    for (int column = 0; column < recordset.FieldCount(); ++column)
-        names.push_back(recordset.FieldName(column));
-    Rows rows(std::move(names));
-    std::vector<Value> values(static_cast<std::size_t>(recordset.FieldCount()));
-    for (; !recordset.Eof(); recordset.MoveNext()) {
-        for (int column = 0; column < recordset.FieldCount(); ++column)
-            values[static_cast<std::size_t>(column)] = recordset[column].Value();
-        rows.Add(values);
-    }
+// Where the rows come from, and who may stop the reading.
+struct Source {
+    ado::Connection& connection;
+    const ado::GoOn& goOn;
+};
+
+Rows Read(const std::string& sql, const Source& source) {
+    Rows rows;
+    ado::ReadRows(
+        sql, source.connection, [&](std::vector<std::string> names) { rows = Rows(std::move(names)); },
+        [&](const std::vector<Value>& row) { rows.Add(row); }, source.goOn);
     return rows;
 }
 
-std::optional<Rows> TryRead(const std::string& sql, ado::Connection& connection) {
+std::optional<Rows> TryRead(const std::string& sql, const Source& source) {
     try {
-        return Read(sql, connection);
-    } catch (const ado::DataError&) {
+        return Read(sql, source);
+    } catch (const ado::DataError& fault) {
+        if (fault.Number() == ado::Stopped) throw;
         return {};
     }
 }
@@ -51,7 +51,7 @@ bool CannotBeCompiled(const ado::DataError& fault) {
 
 // Runs the request's statement. When it cannot be run, it is tried with empty columns in place of those
 // that its query does not have; then the definition's stored query stands in, for the same document.
-Rows RunStatement(const Definition& definition, ado::Connection& connection, Facts& facts) {
+Rows RunStatement(const Definition& definition, const Source& source, Facts& facts) {
     const std::string& asked = facts.request.SQLQuery;
     if (Trim(asked).empty() && definition.query.empty())
         throw ado::DataError(BrokenDefinition, "The report \"" + definition.file +
@@ -59,12 +59,12 @@ Rows RunStatement(const Definition& definition, ado::Connection& connection, Fac
     if (!Trim(asked).empty()) {
         try {
             facts.statement = asked;
-            return Read(asked, connection);
+            return Read(asked, source);
         } catch (const ado::DataError& fault) {
             if (!CannotBeCompiled(fault) || !LiteralsClosed(asked)) throw;
-            const auto runs = [&](const std::string& sql) { return TryRead(sql, connection).has_value(); };
+            const auto runs = [&](const std::string& sql) { return TryRead(sql, source).has_value(); };
             if (const auto filled = WithoutMissingColumns(asked, runs))
-                if (auto rows = TryRead(*filled, connection)) {
+                if (auto rows = TryRead(*filled, source)) {
                     facts.statement = *filled;
                     return std::move(*rows);
                 }
@@ -72,7 +72,7 @@ Rows RunStatement(const Definition& definition, ado::Connection& connection, Fac
         }
     }
     facts.statement = ForDocument(definition.query, asked, definition.file);
-    return Read(facts.statement, connection);
+    return Read(facts.statement, source);
 }
 
 // The head of the sheet: the title formulas of the request, or the company as it is for one that sets none.
@@ -103,7 +103,9 @@ std::unique_ptr<Report> OpenReport(const ReportRequest& request, Services& servi
     facts.regional = services.regional;
     facts.connect = request.Connect.empty() ? services.session.ConnectionString : request.Connect;
     ado::Connection connection(services.data, facts.connect);
-    Rows rows = RunStatement(definition, connection, facts);
+    const std::unique_ptr<Waiting> waiting = services.desktop.Wait("Reading the report ...");
+    const ado::GoOn goOn = [&] { return waiting->GoOn(); };
+    Rows rows = RunStatement(definition, {connection, goOn}, facts);
     connection.Close();
     return std::make_unique<Report>(std::move(definition), std::move(rows), std::move(facts));
 }

@@ -81,8 +81,9 @@ private:
     std::unique_ptr<const Layout> layout_;
 };
 
-// Runs a request. DataError when the definition is missing or broken, a formula is broken, or neither the
-// request's statement nor the definition's own can be run.
+// Runs a request. Long reading the person may stop (DataError Stopped). DataError when the definition is
+// missing or broken, a formula is broken, or neither the request's statement nor the definition's own can be
+// run.
 std::unique_ptr<Report> OpenReport(const ReportRequest& request, Services& services);
 
 } // namespace varnik::reports

@@ -175,6 +175,32 @@ TEST_F(CostTest, AListReadsTheRowsThatAreLookedAt) {
     EXPECT_EQ(FailureOf([&] { list.Row(1); }), ObjectClosed);
 }
 
+TEST_F(CostTest, LongReadingIsStoppedAndLeavesTheConnectionSound) {
+    Connection connection = Open();
+    ExecuteNative(connection, "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i+1 FROM n WHERE i < 50000) "
+                              "INSERT INTO Customer SELECT 'C' || i, 'Toko', 0, i, 0, 0 FROM n");
+    const std::string everything = "Select * From Customer Where NamaCus Like '%o%' Order By SaldoAkhir";
+    const RowList list(everything, connection);
+    int asked = 0;
+    const GoOn thirdTime = [&] {
+        // Whoever paints meanwhile gets nothing, instead of disturbing the statement.
+        EXPECT_TRUE(list.Row(7).empty());
+        return ++asked < 3;
+    };
+    EXPECT_EQ(FailureOf([&] { RowList(everything, connection, thirdTime); }), Stopped);
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(list.Row(7)[0], Value("C8"));
+    long rows = 0;
+    const auto begin = [](const std::vector<std::string>& names) { EXPECT_EQ(names[1], "NamaCus"); };
+    const auto take = [&](const std::vector<Value>&) { ++rows; };
+    EXPECT_EQ(FailureOf([&] { ReadRows(everything, connection, begin, take, [] { return false; }); }),
+              Stopped);
+    EXPECT_LT(rows, 50000);
+    rows = 0;
+    ReadRows(everything, connection, begin, take);
+    EXPECT_EQ(rows, 50000);
+}
+
 TEST_F(CostTest, TheValuesOfAnIndexedColumnAreWalked) {
     Connection connection = Open();
     const auto values = [&] {
