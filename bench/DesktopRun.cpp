@@ -45,11 +45,9 @@ double MegabytesOf(const char* field) {
     return 0;
 }
 
-void Open(Program& program, ui::QtDesktop& desktop, const std::string& key) {
+void Open(Program& program, const std::string& key) {
     OpenScreen(program.Access(), key, "Screen");
     Settle();
-    // What is not seen is not painted: the window's picture stands for the screen's.
-    if (ui::ScreenWindow* window = desktop.WindowOf(program.Access().screens.at(key).name)) window->repaint();
 }
 
 } // namespace
@@ -93,7 +91,7 @@ int RunDesktop(const std::filesystem::path& folder, double startedAt) {
         for (const auto& [key, entry] : program.Access().screens) {
             if (key.starts_with("mnu")) continue;
             for (const bool first : {true, false}) {
-                const double seconds = Seconds([&, of = key] { Open(program, desktop, of); });
+                const double seconds = Seconds([&, of = key] { Open(program, of); });
                 if (!first) std::printf("open %s %f\n", entry.name.c_str(), seconds);
                 if (forms::Screen* open = desktop.FindScreen(entry.name)) open->Close();
                 Settle();
@@ -105,8 +103,8 @@ int RunDesktop(const std::filesystem::path& folder, double startedAt) {
 int RunAtRest(const std::filesystem::path& folder) {
     return RunProgram(
         folder, [] {},
-        [](Program& program, ui::QtDesktop& desktop) {
-            for (const char* key : {"T01", "T02", "T04", "F01", "F02"}) Open(program, desktop, key);
+        [](Program& program, ui::QtDesktop&) {
+            for (const char* key : {"T01", "T02", "T04", "F01", "F02"}) Open(program, key);
             PrintMemory();
         });
 }

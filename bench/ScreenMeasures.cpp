@@ -2,6 +2,7 @@
 
 #include "bench/Recorder.h"
 #include "common/Numbering.h"
+#include "common/Text.h"
 #include "data/DataSource.h"
 #include "data/Numbering.h"
 
@@ -113,7 +114,7 @@ void AddLoading(std::vector<Measure>& all, Floor& floor, const std::string& size
           {"a receipt", "T02", "Select NoBKM From InvoiceBayar"},
           {"a purchase", "T04", "Select NoFaktur From FakturDetail Where QtySisa > 0"},
           {"a supplier payment", "T05", "Select NoBKK From FakturBayar"}}) {
-        const auto fresh = [&till, key = std::string(key)] { till.Fresh(key); };
+        const auto fresh = [&till, key = std::string(key)] { till.ReadyToLoad(key); };
         const auto work = [&till, key = std::string(key), number = till.Asked(statement)] {
             till.Load(key, number);
         };
@@ -123,17 +124,19 @@ void AddLoading(std::vector<Measure>& all, Floor& floor, const std::string& size
 
 // What a person looks for. Nothing typed finds everything, which is the most that a search can cost.
 std::string ValueFor(const std::string& criterion) {
-    const auto has = [&](const char* word) { return criterion.find(word) != std::string::npos; };
-    if (has("Date")) return "11/20/2026";
-    if (has("Balance") || has("Saldo")) return "50000";
-    if (has("Name") || has("Description")) return "Merak";
+    const auto has = [upper = Upper(criterion)](const char* word) {
+        return upper.find(word) != std::string::npos;
+    };
+    if (has("DATE")) return "11/20/2026";
+    if (has("BALANCE")) return "50000";
+    if (has("NAME") || has("DESCRIPTION")) return "Merak";
     return "0099";
 }
 
 // A criterion under which nothing typed finds everything: a date would be refused.
 std::string AnyText(const std::vector<std::string>& criteria) {
     return *std::ranges::find_if(criteria, [](const std::string& one) {
-        return !one.empty() && one.find("Date") == std::string::npos;
+        return !one.empty() && Upper(one).find("DATE") == std::string::npos;
     });
 }
 

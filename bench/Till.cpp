@@ -193,6 +193,12 @@ void Till::Save(const std::string& key) {
     screen.Click(save.IsShown() ? save : On(screen, "bttnDel"));
 }
 
+// A purchase is read by its number where one is chosen to be deleted.
+void Till::ReadyToLoad(const std::string& key) {
+    forms::Screen& screen = Fresh(key);
+    if (key == "T04") screen.Click(On(screen, "bttnDel"));
+}
+
 void Till::Load(const std::string& key, const std::string& number) {
     forms::Screen& screen = Open(key);
     auto& field = dynamic_cast<forms::TextControl&>(On(screen, NumberFields.at(key)));

@@ -44,7 +44,8 @@ public:
     void ChooseToDelete(const std::string& key);
     void Save(const std::string& key);
 
-    // A document by its number, as typed in the number's field.
+    // A document by its number, as typed in the number's field of a screen that is ready for it.
+    void ReadyToLoad(const std::string& key);
     void Load(const std::string& key, const std::string& number);
 
     // On the search panel of a screen: a criterion and its value are typed; Execute searches and looks at the
