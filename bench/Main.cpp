@@ -90,6 +90,7 @@ void MeasureDesktop(const std::string& self, const Options& options, const std::
 
 int Run(int count, char** words) {
     Options options = Read(count, words);
+    const std::string self = std::filesystem::absolute(words[0]).string(); // a start changes the folder
     ListenToConnections();
     std::vector<std::unique_ptr<ShopCopy>> shops;
     std::vector<std::unique_ptr<Floor>> floors;
@@ -99,7 +100,7 @@ int Run(int count, char** words) {
         shops.push_back(std::make_unique<ShopCopy>(sales));
         const std::string size = FormatNumber(static_cast<double>(sales), "#,##0", {});
         if (!options.filtered && options.desktopRuns > 0)
-            MeasureDesktop(words[0], options, size, shops.back()->Folder(), desktop);
+            MeasureDesktop(self, options, size, shops.back()->Folder(), desktop);
         floors.push_back(std::make_unique<Floor>(shops.back()->Folder()));
         AddScreenMeasures(measures, *floors.back(), size);
         if (sales <= options.pdf) AddReportMeasures(measures, *floors.back(), size, sales == options.pdf);

@@ -7,20 +7,26 @@
 
 #include <algorithm>
 #include <fstream>
+#include <optional>
 #include <sstream>
 
 namespace varnik::bench {
 
 namespace {
 
-// What the definition's own query asks for, about a document that is there.
-std::string StatementOf(const std::filesystem::path& definition, Till& till) {
+// What the definition's own query asks for, about a document that is there; "" for one that runs by itself as
+// it stands. Nothing for a definition without a query, which is a dialog's to fill.
+std::optional<std::string> StatementOf(const std::filesystem::path& definition, Till& till) {
     std::ifstream file(definition);
     std::string line, query;
-    while (std::getline(file, line))
-        // One that spans lines is about no document, and runs by itself.
+    bool own = false;
+    while (std::getline(file, line)) {
+        own = own || line.starts_with("query = ");
+        // One that spans lines is about no document.
         if (line.starts_with("query = \"") && !line.ends_with("\"\"\""))
             query = line.substr(9, line.rfind('"') - 9);
+    }
+    if (!own) return {};
     for (const auto& [mark, statement] :
          {std::pair{"{NoInvoice}", "Select NoInvoice From InvoiceDetail Where Qty > 5"},
           {"{ReturID}", "Select ReturID From InvoiceRetur"},
@@ -73,9 +79,13 @@ void AddReportMeasures(std::vector<Measure>& all, Floor& floor, const std::strin
     for (const std::filesystem::path& file : files) {
         ReportRequest request;
         request.ReportFileName = file.string();
-        request.SQLQuery = file == own ? "SELECT KodeCus,NamaCus,NoInvoice,TglInvoice,Total,Bayar,Saldo From "
-                                         "QryInvCustomer Where NoInvoice < '000003340000'"
-                                       : StatementOf(file, till);
+        const std::optional<std::string> statement =
+            file == own ? std::optional<std::string>(
+                              "SELECT KodeCus,NamaCus,NoInvoice,TglInvoice,Total,Bayar,Saldo From "
+                              "QryInvCustomer Where NoInvoice < '000003340000'")
+                        : StatementOf(file, till);
+        if (!statement) continue;
+        request.SQLQuery = *statement;
         const auto open = [&till, request] {
             auto report = reports::OpenReport(request, till.Access());
             if (report->BuildPage(1).runs.empty()) throw std::runtime_error("an empty page");

@@ -1,5 +1,6 @@
 #include "platform/jet/Implied.h"
 
+#include "common/Numbers.h"
 #include "common/Text.h"
 
 #include <algorithm>
@@ -57,6 +58,16 @@ std::optional<Range> ColumnOf(const ExpressionWriter& expressions, Range conditi
     return column;
 }
 
+// "column >= 500", of a number above 0.
+bool IsAtLeast(const ExpressionWriter& expressions, Range condition) {
+    if (condition.end - condition.begin < 3) return false;
+    const std::size_t last = condition.end - 1;
+    const Range column{condition.begin, last - 1};
+    const bool plain = column.end - column.begin == 1 && IsName(expressions.At(column.begin));
+    return (plain || IsColumn(expressions, column)) && expressions.IsWord(last - 1, ">=") &&
+           expressions.At(last).kind == TokenKind::Number && Val(expressions.At(last).text) > 0;
+}
+
 void WriteTokens(ExpressionWriter& expressions, Range range) {
     for (std::size_t i = range.begin; i < range.end; ++i) expressions.WriteToken(i);
 }
@@ -71,6 +82,7 @@ Implied::Implied(const ExpressionWriter& expressions, Range where) {
             IsColumn(expressions, {condition.begin, last - 1}) &&
             expressions.At(last).kind == TokenKind::Text)
             fixed_.push_back({{condition.begin, last - 1}, last});
+        if (IsAtLeast(expressions, condition)) positive_.push_back({condition.begin, last - 1});
         const auto column = ColumnOf(expressions, condition, "month");
         if (!column) continue;
         for (const Range& other : conditions)
@@ -98,7 +110,12 @@ void Implied::WriteJoin(ExpressionWriter& expressions, Range on) const {
     }
 }
 
-void Implied::WriteDays(ExpressionWriter& expressions) const {
+void Implied::WriteConditions(ExpressionWriter& expressions) const {
+    for (const Range& column : positive_) {
+        expressions.Write("and");
+        WriteTokens(expressions, column);
+        expressions.Write("> 0");
+    }
     for (const Month& month : months_) {
         for (const auto& [comparison, behind] : {std::pair{">=", ""}, {"<", "~"}}) {
             expressions.Write("and");

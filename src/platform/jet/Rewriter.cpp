@@ -126,7 +126,7 @@ private:
             Write("where");
             condition = Piece([&] {
                 expressions_.Expression(until(where), Use::Condition);
-                implied.WriteDays(expressions_);
+                implied.WriteConditions(expressions_);
             });
         }
         if (group < range.end) {

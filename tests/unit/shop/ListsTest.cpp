@@ -67,6 +67,14 @@ TEST_F(MadeUpShop, ASearchOfDocumentsReadsTheRowsThatAreLookedAt) {
         EXPECT_LT(Steps(connection) - before, 10 * 200) << sql;
         EXPECT_TRUE(Listed(list) == Whole(sql)) << sql;
     }
+    // Documents with a balance are found among the open ones alone.
+    const std::int64_t before = Steps(connection);
+    const ado::RowList open("Select NoInvoice, Saldo FROM QryInvCustomer Where Saldo >=   1000 "
+                            " Order By KodeCus,TglInvoice,NoInvoice",
+                            connection);
+    EXPECT_EQ(open.Count(),
+              static_cast<int>(shop.Rows("Select NoInvoice From Invoice Where Saldo >= 1000").size()));
+    EXPECT_LT(Steps(connection) - before, open.Count() * 40 + 400);
     // What changes meanwhile shows, and what is gone is empty.
     const ado::RowList list("Select NoInvoice, Saldo, NamaCus From QryInvCustomer Order By NoInvoice",
                             connection);
