@@ -89,10 +89,10 @@ QCheckBox[dense="true"]::indicator, QRadioButton[dense="true"]::indicator { widt
 QTableView { background: @card; alternate-background-color: @zebra; color: @text; border: 1px solid @border;
     border-radius: 6px; gridline-color: @fadedBorder; selection-background-color: @selection; selection-color: @text; outline: none; }
 QTableView:focus, QTreeView:focus { border: 2px solid @accent; }
-QTableView::item { padding: 0 5px; border: none; }
+QTableView::item { padding: 0 2px; border: none; }
 QTableView::item:selected { background: @selection; color: @text; }
 QHeaderView { background: transparent; border: none; }
-QHeaderView::section { background: @lockedGround; color: @quietText; border: none; border-bottom: 1px solid @border; padding: 5px 8px; }
+QHeaderView::section { background: @lockedGround; color: @quietText; border: none; border-bottom: 1px solid @border; padding: 5px; }
 QHeaderView::section:hover { background: @selection; }
 QHeaderView::up-arrow { image: url(:/icons/chevron-up.svg); width: 11px; height: 11px; subcontrol-position: center right; right: 4px; }
 QHeaderView::down-arrow { image: url(:/icons/chevron-down.svg); width: 11px; height: 11px; subcontrol-position: center right; right: 4px; }

@@ -109,7 +109,7 @@ void TableWidget::PlaceNote() {
 
 // What a column needs for its heading and the rows above, which is what a person sees of it first.
 int TableWidget::NeededWidth(int column, int heading) const {
-    constexpr int rowsLookedAt = 40, padding = 18;
+    constexpr int rowsLookedAt = 40, padding = 14;
     int needed = heading;
     const int rows = std::min(rowsLookedAt, model()->rowCount());
     for (int row = 0; row < rows; ++row) {
@@ -126,7 +126,7 @@ void TableWidget::Spread() {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
     const auto& columns = renewed->Columns();
     const int unit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    constexpr int headingPadding = 30, cellPadding = 20; // the style sheet's, and the style's own
+    constexpr int headingPadding = 24, cellPadding = 18; // the style sheet's, and the style's own
     int sum = 0;
     int widest = columns.size() > 1 ? 1 : 0; // of equals the second: the name behind a code
     std::vector<int> widths, headings;

@@ -72,7 +72,7 @@ void ExpectNothingClipped(ui::ScreenWindow& window) {
             for (int column = 0; column < header.count(); ++column) {
                 const QString text = table->model()->headerData(column, Qt::Horizontal).toString();
                 if (header.isSectionHidden(column)) continue;
-                EXPECT_GE(header.sectionSize(column), header.fontMetrics().horizontalAdvance(text) + 28)
+                EXPECT_GE(header.sectionSize(column), header.fontMetrics().horizontalAdvance(text) + 22)
                     << name << " " << text.toStdString();
             }
         }
