@@ -86,7 +86,7 @@ void Table::ChooseColumns() {
         } else if (!column.days.empty()) {
             there = rows_.Find(column.days) >= 0;
         }
-        if (!there && column.optional) continue;
+        if (column.optional && (!there || (column.hideZero && AllZero(slot)))) continue;
         if (column.age) slot.ageDate = rows_.Find(column.age->date);
         if (!column.days.empty()) slot.ageDate = rows_.Find(column.days);
         const bool summed = column.total || !column.totalOf.empty();
@@ -100,6 +100,14 @@ void Table::ChooseColumns() {
         if (summed) slot.sum = sums_++;
         slots_.push_back(std::move(slot));
     }
+}
+
+// Rows of which none has anything else to show in a column of the statement.
+bool Table::AllZero(const Slot& slot) const {
+    if (slot.field < 0 || rows_.Count() == 0) return false;
+    for (std::size_t row = 0; row < rows_.Count(); ++row)
+        if (rows_.Number(row, slot.field) != 0) return false;
+    return true;
 }
 
 void Table::OrderRows() {
@@ -335,7 +343,7 @@ std::string Table::GroupSum(const Slot& slot, std::size_t level, std::size_t gro
 }
 
 std::string Table::GrandSum(const Slot& slot) const {
-    return FigureText(slot, grandSums_[static_cast<std::size_t>(slot.sum)]);
+    return NumberText(grandSums_[static_cast<std::size_t>(slot.sum)], slot.mask);
 }
 
 std::size_t Table::LineCount() const { return summary_ ? groups_.back().spans.size() : order_.size(); }

@@ -91,6 +91,7 @@ private:
         std::vector<double> sums; // sums_ for each span
     };
     void ChooseColumns();
+    bool AllZero(const Slot& slot) const;
     void OrderRows();
     void FindGroups();
     void Balance();
