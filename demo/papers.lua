@@ -1,4 +1,4 @@
--- What comes out of the printer on an evening in the demo's shop, as PDF and text in the folder that the
+-- What comes out of the printer on an evening in the demo's shop, reports and all, as PDF and text in the folder that the
 -- argument names; then the balances, as they stand. Runs on the folder that shop.lua filled.
 
 local folder = arg[1]
@@ -44,6 +44,34 @@ for _, document in ipairs(documents) do
     click "bttnPrint"
     keep(name)
     click "bttnClose"
+end
+
+scenario "The reports"
+local function print_report(key, screen, name, choose_it)
+    use "frmMainCode"
+    open(key)
+    choose_it()
+    click "OKButton"
+    keep(name)
+    use(screen)
+    click "CancelButton"
+end
+for key, screen in pairs {L01 = "SalesReport", L04 = "PurchasesReport"} do
+    local side = key == "L01" and "sales" or "purchases"
+    for option, name in pairs {opLap1 = "aged", opLap2 = "by-type", opLap3 = "by-name", opLap4 = "balances", opLap5 = "returns"} do
+        print_report(key, screen, side .. "-" .. name, function() click(option) end)
+    end
+end
+for option, name in pairs {opLap1 = "inventory", opLap2 = "stock-card", opLap3 = "price-list"} do
+    print_report("L13", "LapPers1", name, function() click(option) end)
+end
+print_report("L21", "LapBiaya1", "costs", function() end)
+for key, book in pairs {L16 = {"BukuBank", "1"}, L17 = {"BukuHutang", "0000000001"}, L18 = {"BukuPiutang", "0000000003"}} do
+    print_report(key, book[1], book[1]:sub(5):lower() .. "-book", function()
+        enter("Combo1", book[2])
+        enter("Text1", os.date "%m")
+        enter("Text2", os.date "%Y")
+    end)
 end
 
 local function show(title, rows)

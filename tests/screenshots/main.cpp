@@ -53,6 +53,9 @@ public:
         Product();
         User();
         Masters();
+        Reports(); // before what is entered for its picture alone
+        StockAndCost();
+        Books();
         Invoice();
         Receipts();
         Receipt();
@@ -63,9 +66,6 @@ public:
         Payment();
         OtherReceipt();
         OtherPayment();
-        Reports();
-        StockAndCost();
-        Books();
     }
 
 private:
@@ -453,7 +453,7 @@ private:
     QString pictures_;
     std::string invoice_, purchase_; // the numbers of those that were entered for their pictures
     QObject context_;
-    Regional regional_;
+    Regional regional_{.order = DateOrder::DayMonthYear}; // as the books ask for the first of a month
     ui::QtDesktop desktop_;
     Program program_;
 };
