@@ -44,6 +44,12 @@ std::optional<std::string> StatementOf(const std::filesystem::path& definition, 
     return query;
 }
 
+std::unique_ptr<reports::Report> OpenAt1(const ReportRequest& request, Till& till) {
+    auto report = reports::OpenReport(request, till.Access());
+    if (report->BuildPage(1).runs.empty()) throw std::runtime_error("an empty page");
+    return report;
+}
+
 // A list of sales of five columns, as the yardstick for long reports.
 constexpr const char* ListOfSales = R"(title = "Sales"
 [[column]]
@@ -66,6 +72,36 @@ field = "Saldo"
 total = true
 )";
 
+// One report to its first page beside its statements in a bare loop, and to PDF.
+void Add(std::vector<Measure>& all, const std::string& name, const std::string& size, Till& till,
+         const std::function<void()>& prepare, const std::function<std::unique_ptr<reports::Report>()>& open,
+         bool pdf) {
+    auto replay = std::make_shared<std::unique_ptr<Replay>>();
+    all.push_back({"first page of " + name, size,
+                   [=] {
+                       prepare();
+                       return Seconds([&] { open(); });
+                   },
+                   [=] {
+                       if (!*replay) {
+                           prepare();
+                           *replay = std::make_unique<Replay>(StatementsOf([&] { open(); }));
+                       }
+                       return Seconds([&] { (*replay)->Run(); });
+                   },
+                   1});
+    if (!pdf) return;
+    all.push_back({"PDF of " + name,
+                   size,
+                   [=, &till] {
+                       prepare();
+                       const std::filesystem::path to = till.Desk().folder / "report.pdf";
+                       return Seconds([&] { ui::WritePdf(*open(), to); });
+                   },
+                   {},
+                   1});
+}
+
 } // namespace
 
 void AddReportMeasures(std::vector<Measure>& all, Floor& floor, const std::string& size, bool pdf) {
@@ -86,28 +122,20 @@ void AddReportMeasures(std::vector<Measure>& all, Floor& floor, const std::strin
                         : StatementOf(file, till);
         if (!statement) continue;
         request.SQLQuery = *statement;
-        const auto open = [&till, request] {
-            auto report = reports::OpenReport(request, till.Access());
-            if (report->BuildPage(1).runs.empty()) throw std::runtime_error("an empty page");
-            return report;
-        };
-        const std::string name = file == own ? "a list of 100,000 sales" : file.stem().string();
-        auto replay = std::make_shared<std::unique_ptr<Replay>>();
-        all.push_back({"first page of " + name, size, [open] { return Seconds([&] { open(); }); },
-                       [open, replay] {
-                           if (!*replay) *replay = std::make_unique<Replay>(StatementsOf([&] { open(); }));
-                           return Seconds([&] { (*replay)->Run(); });
-                       },
-                       1});
-        if (!pdf) continue;
-        all.push_back({"PDF of " + name,
-                       size,
-                       [&till, open] {
-                           const std::filesystem::path to = till.Desk().folder / "report.pdf";
-                           return Seconds([&] { ui::WritePdf(*open(), to); });
-                       },
-                       {},
-                       1});
+        const auto open = [&till, request] { return OpenAt1(request, till); };
+        Add(
+            all, file == own ? "a list of 100,000 sales" : file.stem().string(), size, till, [] {}, open,
+            pdf);
+    }
+    for (const auto& [key, entry] : till.Access().screens) {
+        if (key.front() != 'L') continue;
+        for (const std::string& kind : till.Kinds(key)) {
+            const auto choose = [&till, key = key, kind] { till.Choose(key, kind); };
+            const auto open = [&till, key = key] { return OpenAt1(till.Print(key), till); };
+            Add(all, entry.name + (kind.empty() ? "" : ": " + till.CaptionOf(key, kind)), size, till, choose,
+                open, pdf);
+        }
+        till.Close(key);
     }
 }
 

@@ -24,6 +24,7 @@ const std::map<std::string, std::string> NumberFields{
 
 Till::Till(std::filesystem::path folder) : desktop_(std::make_unique<TestDesktop>()) {
     desktop_->folder = std::move(folder);
+    std::filesystem::create_directory_symlink(VARNIK_SOURCE "/Report", desktop_->folder / "Report");
     program_ = std::make_unique<Program>(*desktop_, Regional{});
     program_->Start();
     auto& login = *desktop_->FindScreen("fLogin");
@@ -205,6 +206,40 @@ void Till::Load(const std::string& key, const std::string& number) {
     screen.MoveFocus(field);
     field.SetText(number);
     screen.MoveNext();
+}
+
+// ---- Reports ----
+
+std::vector<std::string> Till::Kinds(const std::string& key) {
+    std::vector<std::string> kinds;
+    forms::Screen& dialog = Open(key);
+    for (const char* name : {"opLap1", "opLap2", "opLap3", "opLap4", "opLap5"})
+        if (dialog.FindControl(name)) kinds.emplace_back(name);
+    if (kinds.empty()) kinds.emplace_back();
+    return kinds;
+}
+
+std::string Till::CaptionOf(const std::string& key, const std::string& control) {
+    return On(Open(key), control).Caption();
+}
+
+void Till::Choose(const std::string& key, const std::string& kind) {
+    forms::Screen& dialog = Fresh(key);
+    if (!kind.empty()) dialog.Click(On(dialog, kind));
+    auto* month = dynamic_cast<forms::TextControl*>(dialog.FindControl("Text1"));
+    if (!month) return;
+    auto& account = dynamic_cast<forms::ComboBox&>(On(dialog, "Combo1"));
+    account.SetText(account.Items().front());
+    month->SetText("10");
+    dynamic_cast<forms::TextControl&>(On(dialog, "Text2")).SetText("2026");
+}
+
+ReportRequest Till::Print(const std::string& key) {
+    forms::Screen& dialog = Open(key);
+    desktop_->reports.clear();
+    dialog.Click(On(dialog, "OKButton"));
+    if (desktop_->reports.empty()) throw std::runtime_error(dialog.Name() + " printed nothing");
+    return desktop_->reports.back();
 }
 
 // ---- Lists ----

@@ -63,6 +63,13 @@ public:
     void PrepareLookUp(const LookUp& lookUp);
     int OpenLookUp(const LookUp& lookUp);
 
+    // On a report dialog: the kinds of report that it offers, by the names of their buttons; one is chosen,
+    // for one party and last month where it asks for them; and what Print hands over.
+    std::vector<std::string> Kinds(const std::string& key);
+    std::string CaptionOf(const std::string& key, const std::string& control);
+    void Choose(const std::string& key, const std::string& kind);
+    ReportRequest Print(const std::string& key);
+
     std::string Asked(const std::string& sql); // the first cell of a statement
     std::vector<std::string> Column(const std::string& sql);
 
