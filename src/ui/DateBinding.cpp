@@ -35,13 +35,30 @@ void DressCalendar(QCalendarWidget& calendar) {
             button->setIcon(DrawnIcon(QLatin1String(icons[i]), CurrentColours().accent));
 }
 
+// The calendar is made when it is first asked for: a screen of two dates would open with two of them unseen.
+class CalendarWhenPressed : public QObject {
+public:
+    explicit CalendarWhenPressed(QDateEdit& edit) : QObject(&edit), edit_(edit) {}
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonPress && !dressed_) {
+            dressed_ = true;
+            DressCalendar(*edit_.calendarWidget());
+        }
+        return false;
+    }
+
+private:
+    QDateEdit& edit_;
+    bool dressed_ = false;
+};
+
 class DateBinding : public Binding {
 public:
     DateBinding(Binder& binder, forms::DatePicker& picker, QDateEdit* edit)
         : Binding(binder, picker, edit), picker_(picker), edit_(edit) {
         edit->setCalendarPopup(true);
         edit->setDisplayFormat(Format(binder.Settings()));
-        DressCalendar(*edit->calendarWidget());
+        edit->installEventFilter(new CalendarWhenPressed(*edit));
         edit->setDateRange(QDate(1900, 1, 1), QDate(2099, 12, 31));
         QObject::connect(edit, &QDateEdit::dateChanged, edit, [this](const QDate& date) {
             if (refreshing_) return;
