@@ -27,13 +27,14 @@ void ReportDialog::Wire(forms::Button& ok, forms::Button& cancel, std::function<
 
 void ReportDialog::FillFilter(forms::ComboBox& combo, const std::string& statement, CodeForm form) {
     ado::Connection connection(services_.data, Sess().ConnectionString);
-    ado::Recordset rows(statement, connection, ado::CursorType::Static);
     std::vector<std::string> items;
-    for (; !rows.Eof(); rows.MoveNext()) {
-        const std::string code = TextOf(rows[0].Value());
+    const auto take = [&](const std::vector<Value>& row) {
+        const std::string code = TextOf(row[0]);
         items.push_back((form == CodeForm::Padded ? PadRight(Trim(code), CodeWidth) : code) + " / " +
-                        TextOf(rows[1].Value()));
-    }
+                        TextOf(row[1]));
+    };
+    ado::ReadRows(
+        statement, connection, [](const auto&) {}, take);
     combo.SetItems(std::move(items));
 }
 

@@ -135,10 +135,37 @@ private:
     bool refreshing_ = false;
 };
 
+// The items of a drop-down. It holds none of them: what the list shows is read from the control, so that one
+// of all customers costs what is looked at.
+class ItemsModel : public QAbstractListModel {
+public:
+    ItemsModel(const forms::ComboBox& box, QObject* owner) : QAbstractListModel(owner), box_(box) {}
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (role != Qt::DisplayRole && role != Qt::EditRole) return {};
+        const auto row = static_cast<std::size_t>(index.row());
+        return row < box_.Items().size() ? ToQt(box_.Items()[row]) : QString();
+    }
+    // Takes in other items; false when they are those it has.
+    bool Renew() {
+        if (contents_ == box_.Contents()) return false;
+        beginResetModel();
+        contents_ = box_.Contents();
+        rows_ = static_cast<int>(box_.Items().size());
+        endResetModel();
+        return true;
+    }
+
+private:
+    const forms::ComboBox& box_;
+    unsigned contents_ = 0;
+    int rows_ = 0;
+};
+
 class ComboBinding : public Binding {
 public:
     ComboBinding(Binder& binder, forms::ComboBox& box, QComboBox* combo)
-        : Binding(binder, box, combo), box_(box), combo_(combo) {
+        : Binding(binder, box, combo), box_(box), combo_(combo), items_(new ItemsModel(box, combo)) {
         if (!box.ListOnly()) {
             combo->setEditable(true);
             combo->setCompleter(nullptr);
@@ -149,7 +176,10 @@ public:
                 Refresh();
             });
         }
-        combo->setView(new QListView(combo)); // its rows take the style sheet's height
+        combo->setModel(items_);
+        auto* list = new QListView(combo); // its rows take the style sheet's height
+        list->setUniformItemSizes(true);
+        combo->setView(list);
         combo->setInsertPolicy(QComboBox::NoInsert);
         combo->setMaxVisibleItems(14);
         QObject::connect(combo, &QComboBox::activated, combo, [this](int index) {
@@ -164,13 +194,11 @@ public:
     }
     void Refresh() override {
         const QScopedValueRollback<bool> quiet(refreshing_, true);
-        QStringList items;
-        for (const std::string& item : box_.Items()) items << ToQt(item);
-        if (items != items_) {
-            items_ = items;
-            combo_->clear();
-            combo_->addItems(items_);
-        }
+        // A long list is as wide as its field: measuring every item would take longer than opening the
+        // screen.
+        constexpr int Measured = 200;
+        if (items_->Renew() && items_->rowCount() > Measured)
+            combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         if (QLineEdit* edit = combo_->lineEdit()) {
             // Choosing the item rewrites the text, and the caret would come back to its beginning.
             const int caret = edit->cursorPosition();
@@ -205,7 +233,7 @@ public:
 private:
     forms::ComboBox& box_;
     QComboBox* combo_;
-    QStringList items_;
+    ItemsModel* items_;
     bool refreshing_ = false;
 };
 

@@ -34,16 +34,19 @@ void TextControl::SetLocked(bool locked) {
 
 void ComboBox::SetItems(std::vector<std::string> items) {
     items_ = std::move(items);
+    ++contents_;
     Changed();
 }
 
 void ComboBox::AddItem(std::string item) {
     items_.push_back(std::move(item));
+    ++contents_;
     Changed();
 }
 
 void ComboBox::Clear() {
     items_.clear();
+    ++contents_;
     Changed();
     SetText("");
 }

@@ -75,14 +75,16 @@ public:
     const std::vector<std::string>& Items() const { return items_; }
     void SetItems(std::vector<std::string> items); // the text stays
     void AddItem(std::string item);
-    void Clear();                               // items and text
-    bool ListOnly() const { return listOnly_; } // picks from the list, takes no free typing
+    void Clear();                                   // items and text
+    unsigned Contents() const { return contents_; } // another number after a change of the items
+    bool ListOnly() const { return listOnly_; }     // picks from the list, takes no free typing
     void SetListOnly(bool only) { listOnly_ = only; }
     int ListIndex() const; // of the item that the text equals, -1 when none
     void Pick(int index);  // by a person: sets the text, then onClick; nothing when locked
 
 private:
     std::vector<std::string> items_;
+    unsigned contents_ = 0;
     bool listOnly_ = false;
 };
 
