@@ -30,7 +30,6 @@ namespace {
 
 constexpr int FitWidthItem = 0, FitPageItem = 1;
 constexpr int MessageTime = 6000; // ms
-constexpr int WaitForBar = 400;   // ms of work before its bar shows
 
 QWidget* Spacer(QWidget* parent) {
     auto* spacer = new QWidget(parent);
@@ -234,7 +233,7 @@ bool PreviewWindow::Find(const QString& text, bool forward) {
     QProgressDialog bar("Searching ...", "Stop", 0, report_->PageCount(), this);
     bar.setWindowTitle(windowTitle());
     bar.setWindowModality(Qt::WindowModal);
-    bar.setMinimumDuration(WaitForBar);
+    bar.setMinimumDuration(waitForBar_);
     hit_ = report_->Find(text.toStdString(), from, forward, [&](long done, long) {
         bar.setValue(static_cast<int>(done));
         return !bar.wasCanceled();
@@ -268,7 +267,7 @@ void PreviewWindow::Save(const QString& file, const QString& doing,
     QProgressDialog bar(doing, "Stop", 0, 100, this);
     bar.setWindowTitle(windowTitle());
     bar.setWindowModality(Qt::WindowModal);
-    bar.setMinimumDuration(WaitForBar);
+    bar.setMinimumDuration(waitForBar_);
     try {
         const bool done = work([&](long part, long total) {
             bar.setValue(total > 0 ? static_cast<int>(part * 100 / total) : 0);

@@ -33,6 +33,8 @@ public:
     void SaveXlsx(QString file = {});
     void SaveCsv(QString file = {});
     void Print();
+    // How much work in milliseconds goes by before its bar with the Stop button shows.
+    void ShowBarAfter(int milliseconds) { waitForBar_ = milliseconds; }
 
 private:
     QAction* AddAction(QToolBar& bar, PreviewIcon icon, const QString& text, const QString& hint,
@@ -57,6 +59,7 @@ private:
     QAction *first_ = nullptr, *previous_ = nullptr, *next_ = nullptr, *last_ = nullptr;
     std::optional<reports::Hit> hit_;
     QString lastFound_;
+    int waitForBar_ = 400;
 };
 
 } // namespace varnik::ui
