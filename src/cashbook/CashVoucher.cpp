@@ -77,7 +77,11 @@ void CashVoucher::Move(document::Navigation::Move move) {
         step.Step([&] { any = document::Navigation::Walk(vouchers_, move); });
         if (any) step.Step([&] { number = TextOf(vouchers_[texts_.number]); });
     });
-    if (!any) return;
+    if (any) ShowVoucher(number);
+}
+
+// A number that stands need not be one of this screen's: supplier payments share the series of payments.
+void CashVoucher::ShowVoucher(const std::string& number) {
     ClearVoucher();
     head_.txtNoBukti.SetText(number);
     LoadVoucher(number);
@@ -144,9 +148,10 @@ void CashVoucher::NumberLeft() {
     if (Mode() == EntryMode::New) {
         if (!stands) return;
         Say(texts_.numberStands);
-        return CancelEntry(); // shows the voucher that stands
+        LeaveEntry();
+        return ShowVoucher(number);
     }
-    if (stands) return LoadVoucher(number);
+    if (stands) return ShowVoucher(number);
     Say(Browsing() ? texts_.unknown : texts_.unknownNow);
     LeaveEntry();
     // What shows is not the voucher of this number.

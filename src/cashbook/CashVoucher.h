@@ -68,6 +68,7 @@ private:
     void MethodLeft();
     void LeaveEntry();
     void Move(document::Navigation::Move move);
+    void ShowVoucher(const std::string& number); // and nothing but it
 
     const CashTexts texts_;
 };

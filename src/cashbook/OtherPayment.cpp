@@ -160,6 +160,7 @@ void OtherPayment::CostChanged() {
     document::ShowItem(lines_.TxtJenisBiaya, TextOf(cost["KodejenisBiaya"]));
 }
 
+// A row of a cost or type that is not registered would be posted and never be shown or reported again.
 bool OtherPayment::CostStands() {
     const auto stands = [this](const char* before, const std::string& code) {
         ado::Recordset rows;

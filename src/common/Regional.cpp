@@ -221,9 +221,11 @@ std::optional<DateTime> ParseDate(std::string_view text, const Regional& regiona
         second = *time;
     }
     // A four-digit first part is a year in every order, so ISO is read on every machine.
-    const bool yearFirst = parts[0].size() == 4 || regional.order == DateOrder::YearMonthDay;
+    // One with four digits at the end is no day: there the day comes first where the machine has no say.
+    const bool yearLast = parts[2].size() == 4;
+    const bool yearFirst = parts[0].size() == 4 || (regional.order == DateOrder::YearMonthDay && !yearLast);
     const int y = yearFirst ? 0 : 2;
-    const int m = yearFirst || regional.order == DateOrder::DayMonthYear ? 1 : 0;
+    const int m = yearFirst || regional.order != DateOrder::MonthDayYear ? 1 : 0;
     const int d = 3 - y - m;
     if (parts[y].size() == 3 || parts[m].size() > 2 || parts[d].size() > 2) return std::nullopt;
     const auto number = [&](int i) { return std::atoi(std::string(parts[i]).c_str()); };

@@ -196,7 +196,7 @@ void fuser::CancelClick() {
     RefreshRights();
 }
 
-// The account in use and the last one go like any other: wanted.
+// The account in use and the last one go like any other, and before a user is shown the first: wanted.
 void fuser::DeleteClick() {
     if (!Ask("Are you sure you want delete this user ?")) return;
     std::string failure;

@@ -168,7 +168,7 @@ double DocumentFoot(const Table& table, double width, Page& page) {
         left += Paragraph(page, Margin, left, leftWidth, words, {9.5}) + 2;
     }
     for (const Template& note : document.notes)
-        if (const std::string text = table.Fill(note, table.All()); !text.empty())
+        if (const std::string text = table.FillIfGiven(note, table.All()); !text.empty())
             left += Paragraph(page, Margin, left, leftWidth, text, {8.5, false, Muted});
 
     double y = std::max(left, right) + 8;

@@ -6,11 +6,14 @@
 #include "reports/engine/Report.h"
 
 #include <cctype>
+#include <cstdlib>
 #include <vector>
 
 namespace varnik::reports {
 
 namespace {
+
+constexpr int MonthsInYear = 12;
 
 struct Token {
     enum class Kind { Word, Text, Sign, Open } kind; // Open: a text literal without an end
@@ -131,6 +134,23 @@ std::optional<std::string> ComparedWith(std::string_view sql, std::string_view c
             tokens[i + 2].kind == Token::Kind::Text)
             return tokens[i + 2].text;
     return {};
+}
+
+std::optional<AskedMonth> MonthAskedOf(std::string_view sql, std::string_view column) {
+    const std::vector<Token> tokens = Tokens(sql);
+    // function ( [table .] column ) = number
+    const auto asked = [&](std::string_view function) {
+        for (std::size_t i = 0; i + 3 < tokens.size(); ++i)
+            if (IsWord(tokens[i], column) && IsSign(tokens[i + 1], ')') && IsSign(tokens[i + 2], '=')) {
+                const std::size_t open = i >= 2 && IsSign(tokens[i - 1], '.') ? i - 3 : i - 1;
+                if (open >= 1 && open < i && IsSign(tokens[open], '(') && IsWord(tokens[open - 1], function))
+                    return std::atoi(tokens[i + 3].text.c_str());
+            }
+        return 0;
+    };
+    const AskedMonth found{asked("month"), asked("year")};
+    if (found.month < 1 || found.month > MonthsInYear || found.year == 0) return {};
+    return found;
 }
 
 std::string ForDocument(const std::string& query, std::string_view statement, const std::string& file) {

@@ -22,6 +22,13 @@ std::optional<std::string> WithoutMissingColumns(const std::string& sql,
 // when there is none.
 std::optional<std::string> ComparedWith(std::string_view sql, std::string_view column);
 
+// The month and year that a column is compared with ("month(Tanggal)= 9 And Year (Tanggal) = 2026"); nothing
+// when it is not.
+struct AskedMonth {
+    int month, year;
+};
+std::optional<AskedMonth> MonthAskedOf(std::string_view sql, std::string_view column);
+
 // Puts the document's number in place of each {Column} of a stored query, as a text literal, from the
 // statement that gave way to it. DataError when the statement compares nothing with that column.
 std::string ForDocument(const std::string& query, std::string_view statement, const std::string& file);

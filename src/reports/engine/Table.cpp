@@ -346,38 +346,18 @@ std::string Table::GrandSum(const Slot& slot) const {
     return NumberText(grandSums_[static_cast<std::size_t>(slot.sum)], slot.mask);
 }
 
-std::size_t Table::LineCount() const { return summary_ ? groups_.back().spans.size() : order_.size(); }
-
-bool Table::InFront(const Group& group) const {
-    return !group.heading.empty() && std::none_of(slots_.begin(), slots_.end(), [&](const Slot& slot) {
-        return EqualsNoCase(slot.column->heading, group.heading);
-    });
-}
-
-std::vector<std::string> Table::LineHeadings() const {
-    std::vector<std::string> headings;
-    for (const Group& group : definition_.groups)
-        if (InFront(group)) headings.push_back(group.heading);
-    for (const Slot& slot : slots_) headings.push_back(slot.column->heading);
-    return headings;
-}
-
-std::vector<Value> Table::LineValues(std::size_t line) const {
-    std::vector<Value> values;
-    const std::uint32_t row = summary_ ? groups_.back().spans[line].first : static_cast<std::uint32_t>(line);
-    for (std::size_t level = 0; level < definition_.groups.size(); ++level)
-        if (const Group& group = definition_.groups[level]; InFront(group))
-            values.push_back(Value(Fill(group.header, groups_[level].spans[GroupOf(level, row)])));
-    for (const Slot& slot : slots_)
-        values.push_back(summary_ && ShowsSum(slot, groups_.size() - 1)
-                             ? Value(groups_.back().sums[line * static_cast<std::size_t>(sums_) +
-                                                         static_cast<std::size_t>(slot.sum)])
-                             : CellValue(slot, row));
-    return values;
-}
-
 std::string Table::Fill(const Template& text, Span span, bool decimals) const {
     return text.Fill([&](const Template::Place& place) { return FillPlace(place, span, decimals); });
+}
+
+std::string Table::FillIfGiven(const Template& text, Span span) const {
+    bool given = false;
+    std::string filled = text.Fill([&](const Template::Place& place) {
+        std::string found = FillPlace(place, span, false);
+        given = given || !found.empty();
+        return found;
+    });
+    return given || text.Names().empty() ? filled : "";
 }
 
 // A sum is named after a column of the rows, or after the heading of a calculated one.
@@ -401,7 +381,11 @@ std::string Table::FillPlace(const Template::Place& place, Span span, bool decim
         const std::string given = Parameter(facts_, place.name);
         return place.words && !given.empty() ? words(ToNumber(given, facts_.regional)) : given;
     }
-    // Without rows a code that the statement asks for is still known.
+    // Without rows a code and a month that the statement asks for are still known.
+    if (span.first >= span.last && place.month) {
+        const auto asked = MonthAskedOf(facts_.request.SQLQuery, place.name);
+        return asked ? MonthName(asked->month) + " " + std::to_string(asked->year) : "";
+    }
     if (span.first >= span.last)
         return place.sum ? "" : ComparedWith(facts_.request.SQLQuery, place.name).value_or("");
     const Value value = place.sum ? Value(Sum(place.name, span)) : rows_.Get(order_[span.first], column);

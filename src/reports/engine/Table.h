@@ -73,7 +73,8 @@ public:
     std::string FigureText(const Slot& slot, double number) const;
 
     // The rows as a spreadsheet takes them: one line for each row, or for each group in the summary form.
-    // Groups with a heading of their own stand as columns in front.
+    // Groups with a heading of their own stand as columns in front. A voucher without columns is one line,
+    // its fields and totals.
     std::size_t LineCount() const;
     std::vector<std::string> LineHeadings() const;
     std::vector<Value> LineValues(std::size_t line) const;
@@ -81,6 +82,8 @@ public:
     // Fills a template from the first row of the span, its sums, and the request. Figures show decimals
     // when they have some; with `decimals` always, so that figures under each other line up.
     std::string Fill(const Template& text, Span span, bool decimals = false) const;
+    // The same, but nothing when nothing is known of what it names.
+    std::string FillIfGiven(const Template& text, Span span) const;
     Span All() const { return {0, RowCount()}; }
     std::string Title() const;
     std::string Subtitle() const { return Fill(definition_.subtitle, All()); }
@@ -99,6 +102,9 @@ private:
     void ChooseWidths(double width);
     // Whether a group stands as a column in front of the lines; not beside a column of the same heading.
     bool InFront(const Group& group) const;
+    bool IsSheet() const; // a voucher without columns
+    std::vector<const Labelled*> SheetCells() const;
+    Value SheetValue(const Template& text) const;
     double NeededWidth(const Slot& slot, double size) const;
     double Number(const Slot& slot, std::uint32_t row) const;
     std::optional<int> Days(const Slot& slot, std::size_t stored) const; // from its date to today

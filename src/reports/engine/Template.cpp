@@ -67,6 +67,11 @@ std::string Template::Fill(const std::function<std::string(const Place&)>& fill)
     return Trim(result);
 }
 
+const Template::Place* Template::Only() const {
+    const bool one = pieces_.size() == 1 && pieces_.front().places.size() == 1;
+    return one && pieces_.front().instead.empty() ? &pieces_.front().places.front() : nullptr;
+}
+
 std::vector<std::string> Template::Names() const {
     std::vector<std::string> names;
     for (const Piece& piece : pieces_)

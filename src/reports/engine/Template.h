@@ -35,6 +35,8 @@ public:
     // `fill` gives the text of one place.
     std::string Fill(const std::function<std::string(const Place&)>& fill) const;
     bool Empty() const { return pieces_.empty(); }
+    // The place of a text that is one place and nothing else, for its value as it is; else null.
+    const Place* Only() const;
     // The names of all places, for looking up whether any is there.
     std::vector<std::string> Names() const;
 

@@ -183,6 +183,15 @@ for _, button in ipairs{"bttnFirst", "bttnNext", "bttnNext", "bttnNext", "bttnNe
     seen[#seen + 1] = tonumber(text("txtNoBukti"):sub(1, 10)) .. " " .. caption "lblJumBAYAR"
 end
 expect(seen, {"1 400.50", "1 400.50", "2 50.00", "3 0.00", "3 0.00", "2 50.00", "3 0.00"})
+-- What suppliers were paid is none of this screen's: nothing shows under its number, typed or stumbled upon.
+click "bttnPrev"
+enter("txtNoBukti", "000000000300")
+expect({text "txtNoBukti", caption "lblJumBAYAR", rows "OrderGrid"}, {"000000000300", "0.00", 1})
+click "bttnNew"
+line("0000000002", "777")
+enter("txtNoBukti", "000000000300")
+expect_message "Double payment number ..."
+expect({text "txtNoBukti", caption "lblJumBAYAR", rows "OrderGrid"}, {"000000000300", "0.00", 1})
 click "bttnNew"
 expect(text "txtNoBukti", "000000000400")
 click "bttnCancel"

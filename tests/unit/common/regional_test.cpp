@@ -63,6 +63,7 @@ TEST(Regional, DatesAreReadInTheMachinesOrder) {
     for (const char* text : {"04.03.2026", "4/3/26", "2026-03-04", "4. 3. 2026"})
         EXPECT_EQ(ParseDate(text, German), date) << text;
     EXPECT_EQ(ParseDate("26-3-4", Swedish), date);
+    EXPECT_EQ(ParseDate("04/ 3/ 2026", Swedish), date); // no day has four digits
     EXPECT_EQ(ParseDate("4/3/2026 09:30:05", German), MakeDate(2026, 3, 4, 9 * 3600 + 30 * 60 + 5));
     EXPECT_EQ(ParseDate("1/1/30", English), MakeDate(1930, 1, 1));
     EXPECT_EQ(ParseDate("1/1/29", English), MakeDate(2029, 1, 1));

@@ -268,7 +268,7 @@ Bank Nusa|002|123-456|2026-11-07|PAYMENT CHEQ ID-000000000300|0|2499999.50
      {},
      R"(KodeBiaya|Diskripsi|KodejenisBiaya|JenisBiaya|KodeAcc|NamaAcc
 0000000001|Gaji harian tukang|001|Gaji||
-0000000002|Rekening listrik gudang|002|Listrik dan air|510|
+0000000002|Rekening listrik gudang|002|Listrik dan air||
 )"},
 };
 

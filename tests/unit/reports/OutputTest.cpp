@@ -66,6 +66,19 @@ TEST_F(Output, TheSummaryFormGoesOutAsItIsShown) {
                                              "B2,plain,3\r\n");
 }
 
+TEST_F(Output, AVoucherWithoutColumnsIsOneLine) {
+    const Report report(LoadDefinition("Report", "BKM2.rpt"),
+                        RowsOf("NoBKM|TglBKM@|CaraBayar|Keterangan|NoCek|Jumlah#|Penyetor|NamaBank|NoRek\n"
+                               "000000000700|2026-11-22|CASH||0|1250.5|Bu Tini|Cash|\n"
+                               "000000000700|2026-11-22|CASH||0|1250.5|Bu Tini|Cash|\n"),
+                        FactsOf());
+    EXPECT_TRUE(report.WriteCsv(folder / "receipt.csv"));
+    EXPECT_EQ(FileText(folder / "receipt.csv"),
+              "Received from,Receipt no.,Date,Paid by,Cheque no.,Into,Account no.,Total\r\n"
+              "Bu Tini,000000000700,2026-11-22,CASH,,Cash,,1250.5\r\n");
+    EXPECT_THAT(report.Text(), testing::Not(testing::HasSubstr("For:"))); // nothing was noted
+}
+
 TEST_F(Output, AStoppedOrFailingFileLeavesNothingBehind) {
     std::ofstream(folder / "kept.csv") << "what was there";
     const Report report(ReadDefinition(Lines, "Lines.rpt"), RowsOf(Data), FactsOf());
