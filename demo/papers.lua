@@ -2,12 +2,17 @@
 -- argument names; then the balances, as they stand. Runs on the folder that shop.lua filled.
 
 local folder = arg[1]
+-- Reports look back over these days, books into the month that lay two weeks ago: early in a month there is
+-- little in it yet.
+local Period, TwoWeeks = 90, 14
+local function days_ago(days, format) return os.date(format, os.time() - days * 86400) end
 
 start()
 login("varnik", "kemiri")
 
 local function keep(name)
     local paper = report()
+    expect(paper.rows > 0, true)
     paper:pdf(folder .. "/" .. name .. ".pdf")
     local file = io.open(folder .. "/" .. name .. ".txt", "w")
     file:write(paper:text())
@@ -56,21 +61,26 @@ local function print_report(key, screen, name, choose_it)
     use(screen)
     click "CancelButton"
 end
+-- Clicks the option of a report, and sets the day that its period begins on, where it has one.
+local function look_back(option)
+    if option then click(option) end
+    if visible "DTPicker1" then date("DTPicker1", days_ago(Period, "%Y-%m-%d")) end
+end
 for key, screen in pairs {L01 = "SalesReport", L04 = "PurchasesReport"} do
     local side = key == "L01" and "sales" or "purchases"
     for option, name in pairs {opLap1 = "aged", opLap2 = "by-type", opLap3 = "by-name", opLap4 = "balances", opLap5 = "returns"} do
-        print_report(key, screen, side .. "-" .. name, function() click(option) end)
+        print_report(key, screen, side .. "-" .. name, function() look_back(option) end)
     end
 end
 for option, name in pairs {opLap1 = "inventory", opLap2 = "stock-card", opLap3 = "price-list"} do
-    print_report("L13", "LapPers1", name, function() click(option) end)
+    print_report("L13", "LapPers1", name, function() look_back(option) end)
 end
-print_report("L21", "LapBiaya1", "costs", function() end)
+print_report("L21", "LapBiaya1", "costs", look_back)
 for key, book in pairs {L16 = {"BukuBank", "1"}, L17 = {"BukuHutang", "0000000001"}, L18 = {"BukuPiutang", "0000000003"}} do
     print_report(key, book[1], book[1]:sub(5):lower() .. "-book", function()
         enter("Combo1", book[2])
-        enter("Text1", os.date "%m")
-        enter("Text2", os.date "%Y")
+        enter("Text1", days_ago(TwoWeeks, "%m"))
+        enter("Text2", days_ago(TwoWeeks, "%Y"))
     end)
 end
 
