@@ -102,6 +102,19 @@ std::vector<std::vector<std::string>> BookReader::Rows(const std::string& sql) {
     return rows;
 }
 
+std::string Written(const Books& books) {
+    std::string text = "state";
+    for (const auto& [name, print] : books) text += " " + name + " " + std::to_string(print);
+    return text;
+}
+
+Books Heard(std::istream& words) {
+    Books books;
+    std::string name;
+    for (std::uint64_t print = 0; words >> name >> print;) books[name] = print;
+    return books;
+}
+
 std::string Differences(const Books& a, const Books& b) {
     std::string names;
     for (const auto& [name, print] : a) {

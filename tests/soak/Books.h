@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <istream>
 #include <map>
 #include <string>
 #include <vector>
@@ -30,6 +31,11 @@ public:
 private:
     sqlite3* database_ = nullptr;
 };
+
+// A state as a line from one process to another, "state Invoice 123 ...", and what is heard of it after its
+// first word.
+std::string Written(const Books& books);
+Books Heard(std::istream& words);
 
 // The tables in which two states differ: "Invoice, Customer".
 std::string Differences(const Books& a, const Books& b);

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <iostream>
 #include <numeric>
-#include <sstream>
 
 namespace varnik::soak {
 namespace {
@@ -75,19 +74,6 @@ struct Point {
     Way way;
 };
 
-std::string Written(const Books& books) {
-    std::string text = "state";
-    for (const auto& [name, print] : books) text += " " + name + " " + std::to_string(print);
-    return text;
-}
-
-Books Heard(std::istringstream& words) {
-    Books books;
-    std::string name;
-    for (std::uint64_t print = 0; words >> name >> print;) books[name] = print;
-    return books;
-}
-
 void Prepare(Journal journal) {
     Storage& storage = Storage::Install();
     storage.sharedMemory = journal != Journal::File;
@@ -148,18 +134,15 @@ Trail Walk(Soak& soak, const Case& each) {
         return status;
     });
     Trail trail;
-    while (const auto line = child.Line()) {
-        std::istringstream words(*line);
-        std::string first;
-        words >> first;
+    child.Hear([&](const std::string& first, std::istringstream& words, const std::string& line) {
         if (first == "state")
             trail.states.push_back(Heard(words));
         else if (first == "operation" || first == "beside") {
             trail.before.push_back(trail.states.size() - 1);
             trail.decides.push_back(first == "operation");
         } else
-            soak.Holds(false, each.Name() + ", undisturbed: " + *line);
-    }
+            soak.Holds(false, each.Name() + ", undisturbed: " + line);
+    });
     soak.Holds(child.Wait() == 0, each.Name() + ", undisturbed: failed");
     return trail;
 }
@@ -213,22 +196,20 @@ Outcome Disturb(Soak& soak, const Case& each, const Point& point, const std::fil
         return status;
     });
     Outcome outcome;
-    while (const auto line = child.Line()) {
-        std::istringstream words(*line);
-        std::string first, second;
-        words >> first;
+    child.Hear([&](const std::string& first, std::istringstream& words, const std::string& line) {
+        std::string second;
         if (first == "struck")
             outcome.struck = true;
         else if (first == "asked" || first == "told") {
             ++(first == "asked" ? outcome.asked : outcome.told);
-            outcome.texts.push_back(line->substr(first.size() + 1));
+            outcome.texts.push_back(line.substr(first.size() + 1));
         } else if (first == "box" && words >> second)
             outcome.atBox = Heard(words);
         else if (first == "end" && words >> second)
             outcome.atEnd = Heard(words);
         else
-            outcome.said += *line + "\n";
-    }
+            outcome.said += line + "\n";
+    });
     const int status = child.Wait();
     if (status != 0 && outcome.said.empty()) outcome.said = "exit status " + std::to_string(status);
     return outcome;
@@ -314,13 +295,21 @@ long Faults(Soak& soak) {
     std::iota(open.begin(), open.end(), 0);
     std::map<std::string, long> tried;
     long all = 0, struck = 0, walked = 0;
-    while (!open.empty() && soak.GoesOn()) {
-        const auto at = open.begin() + soak.Chance(static_cast<long>(open.size()));
+    constexpr std::size_t PerPosting = std::size(Troubles) * std::size(Journals);
+    for (std::size_t round = 0; !open.empty() && soak.GoesOn(); ++round) {
+        // Each posting once, then whatever chance brings.
+        const auto at =
+            round < std::size(Postings)
+                ? std::ranges::find(open, round * PerPosting + static_cast<std::size_t>(soak.Chance(
+                                                                   static_cast<long>(PerPosting))))
+                : open.begin() + soak.Chance(static_cast<long>(open.size()));
         Case& each = cases[*at];
         std::vector<Point>& points = left[*at];
         if (each.trail.states.empty()) {
             PrepareShop(soak, each);
             each.trail = Walk(soak, each);
+            soak.Holds(each.trail.states.size() > 1 && !each.trail.before.empty(),
+                       each.Name() + ", undisturbed: writes nothing");
             for (std::size_t operation = 0; operation < each.trail.before.size(); ++operation)
                 for (const Way way : Ways) points.push_back({operation, way});
             all += static_cast<long>(points.size());

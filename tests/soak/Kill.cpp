@@ -7,7 +7,6 @@
 #include "tests/soak/Storage.h"
 
 #include <iostream>
-#include <sstream>
 
 namespace varnik::soak {
 namespace {
@@ -21,12 +20,6 @@ struct Trail {
     std::vector<std::size_t> before;   // by operation: the state that stands when it begins
     std::vector<std::string> kinds;    // of the documents, in their order
 };
-
-std::string Written(const Books& books) {
-    std::string text = "state";
-    for (const auto& [name, print] : books) text += " " + name + " " + std::to_string(print);
-    return text;
-}
 
 Trail Walk(Soak& soak, const Play& day) {
     const auto folder = soak.Copy("shop", "trail");
@@ -51,14 +44,11 @@ Trail Walk(Soak& soak, const Play& day) {
     });
     Trail trail;
     trail.finished.push_back(0);
-    while (const auto line = child.Line()) {
-        std::istringstream words(*line);
-        std::string first, name;
-        std::uint64_t print = 0;
+    child.Hear([&](const std::string& first, std::istringstream& words, const std::string& line) {
+        std::string name;
         std::size_t number = 0;
-        words >> first;
         if (first == "state")
-            for (trail.states.emplace_back(); words >> name >> print;) trail.states.back()[name] = print;
+            trail.states.push_back(Heard(words));
         else if (first == "operation" && words >> number)
             trail.before.push_back(number);
         else if (first == "begin" && words >> number >> name)
@@ -66,8 +56,8 @@ Trail Walk(Soak& soak, const Play& day) {
         else if (first == "end")
             trail.finished.push_back(trail.states.size() - 1);
         else
-            soak.Holds(false, "the undisturbed day: " + *line);
-    }
+            soak.Holds(false, "the undisturbed day: " + line);
+    });
     soak.Holds(child.Wait() == 0, "the undisturbed day failed");
     return trail;
 }
@@ -126,7 +116,10 @@ long Kill(Soak& soak) {
         if (kills % KillsADay == 0) {
             day.arguments = {std::to_string(soak.Chance(1000000)), std::to_string(Documents)};
             trail = Walk(soak, day);
-            if (trail.states.empty()) return kills;
+            // A day that writes nothing leaves nothing to kill.
+            if (!soak.Holds(!trail.before.empty() && !trail.kinds.empty(),
+                            "the undisturbed day " + day.arguments[0] + " writes nothing"))
+                return soak.Faults();
             states += static_cast<long>(trail.states.size());
         }
         const auto folder = soak.Copy("shop", "killed");

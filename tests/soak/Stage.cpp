@@ -8,7 +8,6 @@
 #include <cstdio>
 #include <iostream>
 #include <poll.h>
-#include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -149,6 +148,16 @@ std::optional<std::string> Child::Line(int timeoutMs) {
         const ssize_t got = read(in_, buffer, sizeof buffer);
         if (got <= 0) return std::nullopt;
         read_.append(buffer, static_cast<std::size_t>(got));
+    }
+}
+
+void Child::Hear(
+    const std::function<void(const std::string&, std::istringstream&, const std::string&)>& said) {
+    while (const auto line = Line()) {
+        std::istringstream words(*line);
+        std::string first;
+        words >> first;
+        said(first, words, *line);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <random>
+#include <sstream>
 #include <string>
 #include <sys/types.h>
 #include <vector>
@@ -74,6 +75,9 @@ public:
     // Nothing at the end, or when the time is over; `timedOut` tells them apart.
     std::optional<std::string> Line(int timeoutMs = -1);
     bool TimedOut() const { return timedOut_; }
+    // All that it says until its end: a line's first word, the words after it, the whole line.
+    void Hear(const std::function<void(const std::string& first, std::istringstream& words,
+                                       const std::string& line)>& said);
     void Kill();
     int Wait(); // exit status, -1 when it was killed
 

@@ -14,7 +14,6 @@
 #include <iostream>
 #include <map>
 #include <memory>
-#include <sstream>
 
 namespace varnik::soak {
 namespace {
@@ -217,7 +216,7 @@ long Workstations(Soak& soak) {
     std::map<std::size_t, std::pair<long, Lost>> totals;
     for (long round = 0; soak.GoesOn(); ++round) {
         const std::size_t stations =
-            std::array<std::size_t, 4>{2, 4, 4, 1}[static_cast<std::size_t>(round % 4)];
+            std::array<std::size_t, 4>{1, 4, 2, 4}[static_cast<std::size_t>(round % 4)];
         const auto folder = soak.Copy("shop", "shared");
         std::vector<std::unique_ptr<Child>> children;
         const std::string seed = std::to_string(soak.Chance(1000000));
@@ -236,17 +235,17 @@ long Workstations(Soak& soak) {
         }
         const std::string where = std::to_string(stations) + " stations, seed " + seed + ": ";
         Said said;
-        for (const auto& child : children) {
-            while (const auto line = child->Line()) {
-                std::istringstream words(*line);
-                std::string first;
-                words >> first;
-                if (first == "posted")
-                    said.Hear(words);
-                else
-                    soak.Holds(false, where + *line);
-            }
-            soak.Holds(child->Wait() == 0, where + "a station failed");
+        for (std::size_t i = 0; i < stations; ++i) {
+            const long before = said.documents;
+            children[i]->Hear(
+                [&](const std::string& first, std::istringstream& words, const std::string& line) {
+                    if (first == "posted")
+                        said.Hear(words);
+                    else
+                        soak.Holds(false, where + line);
+                });
+            soak.Holds(children[i]->Wait() == 0, where + "a station failed");
+            soak.Holds(said.documents > before, where + Users[i] + " posted nothing");
         }
         Audit audit(soak, folder, said, where);
         audit.Documents();
