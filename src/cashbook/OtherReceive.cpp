@@ -103,7 +103,7 @@ void OtherReceive::DeleteReceipt() {
         bool found = false;
         step.Step([&] {
             receipt.Open("Select * From BKM Where  NoBKM ='" + number + "'", Data());
-            found = !receipt.Empty();
+            found = Carries(receipt, "NoBKM", number);
         });
         if (!found) return Say("Unable to find record ...");
         // Wanted: from a thousand on the amount carries a group separator, which the statement cannot hold

@@ -143,6 +143,10 @@ bool DocumentScreen::Found(ado::Recordset& rows, const std::string& sql) {
     return found;
 }
 
+bool DocumentScreen::Carries(ado::Recordset& rows, const char* column, const std::string& number) const {
+    return !rows.Empty() && EqualsNoCase(Trim(TextOf(rows[column])), Trim(number));
+}
+
 Resting::Resting(forms::Screen& screen, forms::Button& button)
     : screen_(screen), button_(button), focused_(screen.Focused() == &button) {
     button_.SetEnabled(false);

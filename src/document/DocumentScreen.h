@@ -76,6 +76,9 @@ protected:
     ado::Connection& Data() { return connection_; }
     // Opens a look-up. A statement that fails (a quote in a field) finds nothing, as on every screen.
     bool Found(ado::Recordset& rows, const std::string& sql);
+    // Whether the row found is the document of this number, without regard to case and blanks: a number with
+    // quotes in it may read as a condition that other rows meet.
+    bool Carries(ado::Recordset& rows, const char* column, const std::string& number) const;
 
 private:
     void Save();

@@ -17,7 +17,7 @@ void Faktur::ReverseFaktur(const std::string& number) {
         ado::Recordset purchase, detail;
         bool found = false;
         step.Step([&] { purchase.Open("Select * from Faktur" + here, Data()); });
-        step.Step([&] { found = !purchase.Empty(); });
+        step.Step([&] { found = Carries(purchase, "NoFaktur", number); });
         if (!found) return Say("Purchases id. " + number + " not found...");
         std::string code;
         step.Step([&] { code = TextOf(purchase["KodeSup"]); });

@@ -18,7 +18,7 @@ void Invoice::DeleteInvoice() {
         bool found = false;
         step.Step(
             [&] { invoice.Open("Select * From Invoice Where noINvoice = '" + number + "'", connection); });
-        step.Step([&] { found = !invoice.Empty(); });
+        step.Step([&] { found = Carries(invoice, "NoInvoice", number); });
         if (!found) return Say("Invoice with this number is not found ...");
         // A receipt and a return both raise what is paid.
         double paid = 0;

@@ -108,7 +108,7 @@ void InvoiceRetur::DeleteRetur() {
         ado::Recordset retur, detail;
         bool found = false;
         step.Step([&] { retur.Open("Select * From InvoiceRetur Where  ReturID ='" + id + "'", Data()); });
-        step.Step([&] { found = !retur.Empty(); });
+        step.Step([&] { found = Carries(retur, "ReturID", id); });
         if (!found) return Say("Unable to find record ...");
         std::string invoice, code, total;
         step.Step([&] { invoice = TextOf(retur["NoInvoice"]); });

@@ -2,6 +2,7 @@
 // one, is left by every way there is, and everything that searches is pressed.
 
 #include "common/Text.h"
+#include "data/Schema.h"
 #include "tests/walk/support/Walk.h"
 
 #include <gtest/gtest.h>
@@ -147,34 +148,75 @@ TEST(Intrusion, ACodeThatIsAConditionMeetsNoRecord) {
     }
 }
 
+constexpr const char* DocumentTables[] = {"Invoice", "InvoiceDetail", "InvoiceRetur", "InvoiceReturDetail",
+                                          "Faktur",  "FakturDetail",  "FakturRetur",  "FakturReturDetail",
+                                          "BKM",     "InvoiceBayar",  "BKK",          "FakturBayar"};
+
+// Two more of every document.
+void AddDocuments(ado::Connection& connection, DateTime date) {
+    for (const char* name : DocumentTables)
+        for (const char* number : {"000000000901", "000000000902"}) {
+            ado::Recordset rows(std::string("Select * From ") + name, connection);
+            rows.AddNew();
+            for (const jet::Column& column : jet::Catalog{data::Tables()}.FindTable(name)->columns) {
+                ado::Field field = rows[column.name];
+                if (column.type == jet::ColumnType::Boolean)
+                    field = false;
+                else if (column.type == jet::ColumnType::Date)
+                    field = date;
+                else if (column.type != jet::ColumnType::Text)
+                    field = 1.0;
+                else
+                    field = column.name.starts_with("Kode") && column.size >= 10 ? "0000000001"
+                            : column.name == "RekID"                             ? "001"
+                                                                                 : "1";
+            }
+            rows[0] = number;
+            rows.Update();
+        }
+}
+
+// The most documents that go from one table when the screen is to delete this number; `fields` took it.
+std::size_t MostGoneBy(const std::string& number, const std::string& key, bool partnersGone, int& fields) {
+    Walk walk(7);
+    walk.Desktop().AgreeToAll();
+    ado::Connection connection(walk.Access().data, walk.Access().session.ConnectionString);
+    AddDocuments(connection, walk.Desktop().Now());
+    if (partnersGone)
+        for (const char* table : {"Customer", "Supplier", "Bank"})
+            connection.Execute(std::string("Delete From ") + table);
+    const Walk::AllTables before = walk.Books();
+    Intruder intruder{walk, key};
+    forms::Screen* screen = intruder.Enter({"bttnDel"});
+    if (!screen) return 0;
+    for (std::size_t i = 0; i < screen->Controls().size() && walk.Desktop().Top() == screen; ++i) {
+        auto* const field = dynamic_cast<forms::TextControl*>(screen->Controls()[i]);
+        if (!field || !field->CanFocus() || field->Locked()) continue;
+        ++fields;
+        walk.TypeInto(*screen, *field, number);
+    }
+    if (forms::Control* save = screen->FindControl("bttnSave"); save && walk.Desktop().Top() == screen)
+        walk.Press(*screen, *save);
+    const Walk::AllTables after = walk.Books();
+    std::size_t most = 0;
+    for (const char* table : DocumentTables) {
+        std::set<std::string> gone = Codes(before.at(table));
+        for (const std::string& left : Codes(after.at(table))) gone.erase(left);
+        most = std::max(most, gone.size());
+    }
+    return most;
+}
+
 // A number that is a condition of its own may find a document, which then shows; that one goes, and no other.
+// What cannot be shown, since its partner or its account is gone, stays; a purchase shows without one too.
 TEST(Intrusion, ANumberThatIsAConditionDeletesNoMoreThanWhatShows) {
     int fields = 0;
     for (const std::string& key : Walk(7).Keys()) {
         if (!key.starts_with("T")) continue;
         for (const char* number : {"'OR''='", "x' Or 1<>'2"}) {
-            Walk walk(7);
-            walk.Desktop().AgreeToAll();
-            Intruder intruder{walk, key};
-            forms::Screen* screen = intruder.Enter({"bttnDel"});
-            if (!screen) continue;
-            for (std::size_t i = 0; i < screen->Controls().size() && walk.Desktop().Top() == screen; ++i) {
-                auto* const field = dynamic_cast<forms::TextControl*>(screen->Controls()[i]);
-                if (!field || !field->CanFocus() || field->Locked()) continue;
-                ++fields;
-                walk.TypeInto(*screen, *field, number);
-            }
-            if (forms::Control* save = screen->FindControl("bttnSave");
-                save && walk.Desktop().Top() == screen)
-                walk.Press(*screen, *save);
-            const Walk::AllTables after = walk.Books();
-            for (const char* table :
-                 {"Invoice", "InvoiceDetail", "InvoiceRetur", "InvoiceReturDetail", "Faktur", "FakturDetail",
-                  "FakturRetur", "FakturReturDetail", "BKM", "InvoiceBayar", "BKK", "FakturBayar"}) {
-                std::set<std::string> gone = Codes(walk.AtFirst().at(table));
-                for (const std::string& left : Codes(after.at(table))) gone.erase(left);
-                EXPECT_LE(gone.size(), 1U) << key << " deletes from " << table << " by " << number;
-            }
+            EXPECT_LE(MostGoneBy(number, key, false, fields), 1U) << key << " by " << number;
+            EXPECT_LE(MostGoneBy(number, key, true, fields), key == "T04" ? 1U : 0U)
+                << key << " by " << number;
         }
     }
     EXPECT_GT(fields, 10);
