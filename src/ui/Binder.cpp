@@ -31,8 +31,8 @@ bool TakesDecimals(const Binding& binding) {
 
 } // namespace
 
-Binder::Binder(forms::Screen& screen, QWidget* window, const Regional& regional)
-    : screen_(screen), window_(window), regional_(regional) {
+Binder::Binder(forms::Screen& screen, QWidget* window, const Regional& regional, Desktop& desktop)
+    : screen_(screen), window_(window), regional_(regional), desktop_(desktop) {
     for (forms::Control* control : screen.Controls()) {
         std::unique_ptr<Binding> made = MakeBinding(*this, *control, window);
         Binding& binding = *made;

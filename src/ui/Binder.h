@@ -9,6 +9,7 @@
 // toolkit's focus go. A button never takes the focus by the toolkit; the screen's Click decides.
 
 #include "common/Regional.h"
+#include "platform/desktop/Desktop.h"
 #include "platform/forms/Screen.h"
 #include "ui/Binding.h"
 
@@ -24,11 +25,12 @@ namespace varnik::ui {
 class Binder : public QObject {
 public:
     // Makes a widget for every control of the screen, as children of `window` that no layout holds yet.
-    Binder(forms::Screen& screen, QWidget* window, const Regional& regional);
+    Binder(forms::Screen& screen, QWidget* window, const Regional& regional, Desktop& desktop);
     ~Binder() override;
 
     forms::Screen& Screen() const { return screen_; }
     const Regional& Settings() const { return regional_; }
+    DateTime Now() const { return desktop_.Now(); }
     QWidget* Window() const { return window_; }
     Binding* Find(const forms::Control& control) const;
     Binding* Find(const std::string& name) const;
@@ -65,6 +67,7 @@ private:
     forms::Screen& screen_;
     QWidget* window_;
     const Regional& regional_;
+    Desktop& desktop_;
     std::vector<std::unique_ptr<Binding>> bindings_;
     QHash<const QObject*, Binding*> sources_;
     QHash<const forms::Control*, Binding*> byControl_;

@@ -79,7 +79,7 @@ public:
     bool HandlesLeft(const forms::Key& key) override {
         // Between the parts of a date that is being typed a "-" is a separator.
         if (typing_ && key.character == U'-') return false;
-        const auto date = DateByKey(key, picker_.Date());
+        const auto date = DateByKey(key, picker_.Date(), binder_.Now());
         typing_ = !date && key.code == forms::KeyCode::Character;
         if (!date) return false;
         picker_.Pick(*date);
@@ -119,9 +119,9 @@ private:
 
 } // namespace
 
-std::optional<DateTime> DateByKey(const forms::Key& key, std::optional<DateTime> date) {
+std::optional<DateTime> DateByKey(const forms::Key& key, std::optional<DateTime> date, DateTime today) {
     if (key.code != forms::KeyCode::Character || key.ctrl || key.alt) return std::nullopt;
-    const DateTime today = FromQt(QDate::currentDate(), date ? date->second : 0);
+    today.second = date ? date->second : 0;
     switch (key.character) {
     case U'+':
         return AddDays(date.value_or(today), 1);

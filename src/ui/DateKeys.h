@@ -19,8 +19,9 @@ namespace varnik::ui {
 class Binder;
 class Binding;
 
-// Where "+", "-" and "T" (today) take a date, from today when there is none; nothing for any other key.
-std::optional<DateTime> DateByKey(const forms::Key& key, std::optional<DateTime> date);
+// Where "+", "-" and "T" (today) take a date, from today when there is none; nothing for any other key. The
+// time of day stays what it was.
+std::optional<DateTime> DateByKey(const forms::Key& key, std::optional<DateTime> date, DateTime today);
 
 // A text field that holds a date, as its page says.
 void MarkDateField(QWidget& widget);

@@ -92,7 +92,7 @@ public:
     bool HandlesLeft(const forms::Key& key) override {
         if (!IsDateField(*edit_) || box_.Locked() || edit_->selectedText() != edit_->text()) return false;
         const Regional& regional = binder_.Settings();
-        const auto date = DateByKey(key, ParseDate(box_.Text(), regional));
+        const auto date = DateByKey(key, ParseDate(box_.Text(), regional), binder_.Now());
         if (!date) return false;
         box_.Type(ShortDate(*date, regional));
         Refresh();

@@ -100,7 +100,7 @@ void PageBuilder::Dress(Binding& binding, const Node& node) {
     case Kind::ListGrid:
         widget.setMinimumHeight((node.width > 0 ? node.width : 6) * (widget.fontMetrics().height() + 10) +
                                 34);
-        widget.setMinimumWidth(330);
+        widget.setMinimumWidth(node.wide > 0 ? node.wide : 330);
         break;
     case Kind::Tree:
         widget.setMinimumSize(280, (node.width > 0 ? node.width : 10) * (widget.fontMetrics().height() + 10));

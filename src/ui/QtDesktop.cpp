@@ -52,7 +52,7 @@ void QtDesktop::ShowModal(std::unique_ptr<forms::Screen> screen, std::function<v
 
 void QtDesktop::Open(std::unique_ptr<forms::Screen> screen, bool modal, std::function<void()> then) {
     ReportFailures(*screen, *this);
-    auto* window = new ScreenWindow(std::move(screen), regional_);
+    auto* window = new ScreenWindow(std::move(screen), regional_, *this);
     windows_.emplace_back(window);
     if (const QPointer<QWidget> opener = modal ? QApplication::activeWindow() : nullptr; opener) {
         window->winId();

@@ -12,7 +12,7 @@
 
 namespace varnik::ui {
 
-ScreenWindow::ScreenWindow(std::unique_ptr<forms::Screen> screen, const Regional& regional)
+ScreenWindow::ScreenWindow(std::unique_ptr<forms::Screen> screen, const Regional& regional, Desktop& desktop)
     : screen_(std::move(screen)), page_(FindPage(screen_->Name())) {
     setObjectName(QStringLiteral("window"));
     setProperty("screen", ToQt(screen_->Name()));
@@ -24,7 +24,7 @@ ScreenWindow::ScreenWindow(std::unique_ptr<forms::Screen> screen, const Regional
     else
         setWindowFlags(Qt::Window);
 
-    binder_ = std::make_unique<Binder>(*screen_, this, regional);
+    binder_ = std::make_unique<Binder>(*screen_, this, regional, desktop);
     screen_->onCaptionChanged = [this] { setWindowTitle(ToQt(screen_->Caption())); };
     screen_->onCloseRequest = [this] {
         hide();

@@ -14,7 +14,7 @@ namespace varnik::ui {
 
 class ScreenWindow : public QWidget {
 public:
-    ScreenWindow(std::unique_ptr<forms::Screen> screen, const Regional& regional);
+    ScreenWindow(std::unique_ptr<forms::Screen> screen, const Regional& regional, Desktop& desktop);
     ~ScreenWindow() override;
 
     // Loads the screen, lays it out and shows it. A screen that closes in its load never shows.

@@ -13,12 +13,12 @@ namespace varnik::ui {
 
 namespace {
 
-const Colours Light{QColor(0xF3F5F8), QColor(0xFFFFFF), QColor(0xC9D1DB), QColor(0x17212E),
-                    QColor(0x4E5B6B), QColor(0x1F5FBF), QColor(0xFFFFFF), QColor(0xECEFF3),
-                    QColor(0xF6F8FB), QColor(0xD6E5FA), QColor(0xB3261E), QColor(0xA35B00)};
-const Colours Dark{QColor(0x1B2027), QColor(0x242A33), QColor(0x46505E), QColor(0xE8ECF1),
-                   QColor(0xAEB8C4), QColor(0x6FA8F5), QColor(0x10161E), QColor(0x2C333D),
-                   QColor(0x29303A), QColor(0x2F4A6E), QColor(0xF28B82), QColor(0xF0B357)};
+const Colours Light{QColor(0xF3F5F8), QColor(0xFFFFFF), QColor(0xC9D1DB), QColor(0x17212E), QColor(0x4E5B6B),
+                    QColor(0x1F5FBF), QColor(0xFFFFFF), QColor(0x3A70C8), QColor(0xECEFF3), QColor(0xF6F8FB),
+                    QColor(0xD6E5FA), QColor(0xB3261E), QColor(0xA35B00)};
+const Colours Dark{QColor(0x1B2027), QColor(0x242A33), QColor(0x46505E), QColor(0xE8ECF1), QColor(0xB2BCC8),
+                   QColor(0x6FA8F5), QColor(0x10161E), QColor(0x5685C4), QColor(0x2C333D), QColor(0x29303A),
+                   QColor(0x2F4A6E), QColor(0xF28B82), QColor(0xF0B357)};
 
 Colours current = Light;
 
@@ -45,7 +45,9 @@ QLineEdit:focus, QPlainTextEdit:focus, QComboBox:focus, QDateEdit:focus { border
 QLineEdit[locked="true"], QPlainTextEdit[locked="true"], QComboBox[locked="true"] {
     background: @lockedGround; color: @text; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled, QDateEdit:disabled { background: @lockedGround; color: @quietText; }
-QLineEdit[total="true"] { border: none; background: transparent; color: @accent; padding: 0; }
+QLineEdit[total="true"] { color: @accent; }
+QLineEdit[total="true"][locked="true"] { border: 2px solid transparent; background: transparent; padding: 0; }
+QLineEdit[total="true"][locked="true"]:focus { border-color: @accent; }
 QComboBox::drop-down, QDateEdit::drop-down { subcontrol-origin: padding; subcontrol-position: center right; width: 20px; border: none; }
 QComboBox::down-arrow, QDateEdit::down-arrow { image: url(:/icons/chevron-down.svg); width: 12px; height: 12px; }
 QComboBox QLineEdit, QDateEdit QLineEdit { border: none; padding: 0; background: transparent; }
@@ -68,7 +70,7 @@ QPushButton:focus { border: 2px solid @accent; padding: 4px 11px; }
 QPushButton:disabled { color: @faded; background: transparent; border-color: @fadedBorder; }
 QPushButton[primary="true"] { background: @accent; color: @accentText; border-color: @accent; }
 QPushButton[primary="true"]:hover { background: @accentDeep; }
-QPushButton[primary="true"]:focus { border: 2px solid @text; }
+QPushButton[primary="true"]:focus { background: @accentFocused; border: 2px solid @text; }
 QPushButton[primary="true"]:disabled { background: transparent; color: @faded; border-color: @fadedBorder; }
 
 QCheckBox, QRadioButton { spacing: 7px; background: transparent; padding: 3px 2px; border: 1px solid transparent; border-radius: 4px; }
@@ -87,8 +89,9 @@ QCheckBox[dense="true"], QRadioButton[dense="true"] { spacing: 3px; padding: 0; 
 QCheckBox[dense="true"]::indicator, QRadioButton[dense="true"]::indicator { width: 10px; height: 10px; }
 
 QTableView { background: @card; alternate-background-color: @zebra; color: @text; border: 1px solid @border;
-    border-radius: 6px; gridline-color: @fadedBorder; selection-background-color: @selection; selection-color: @text; outline: none; }
-QTableView:focus, QTreeView:focus { border: 2px solid @accent; }
+    border-radius: 6px; gridline-color: @fadedBorder; selection-background-color: @selection; selection-color: @text; outline: none; padding: 1px; }
+QTableView:focus { border: 2px solid @accent; padding: 0; }
+QTreeView:focus { border: 2px solid @accent; padding: 3px; }
 QTableView::item { padding: 0 2px; border: none; }
 QTableView::item:selected { background: @selection; color: @text; }
 QHeaderView { background: transparent; border: none; }
@@ -133,6 +136,7 @@ QString StyleSheet(const Colours& c) {
     // The longer names first: "@accentText" begins with "@accent".
     const std::pair<const char*, QColor> names[] = {
         {"@accentText", c.accentText},
+        {"@accentFocused", c.accentFocused},
         {"@accentDeep", Mixed(c.accent, c.text, 0.2)},
         {"@accent", c.accent},
         {"@fadedBorder", Mixed(c.border, c.window, 0.5)},

@@ -10,8 +10,8 @@ namespace varnik::ui {
 
 // Text stands at a contrast of 4.5:1 at least on every ground it is used on, the focus mark at 3:1.
 struct Colours {
-    QColor window, card, border, text, quietText, accent, accentText, lockedGround, zebra, selection, danger,
-        warning;
+    QColor window, card, border, text, quietText, accent, accentText, accentFocused, lockedGround, zebra,
+        selection, danger, warning;
 };
 
 const Colours& CurrentColours();

@@ -214,7 +214,10 @@ TEST_F(Binder, ColoursCanBeTold) {
             EXPECT_GE(Contrast(c.accent, ground), 4.5) << ground.name().toStdString();
         }
         EXPECT_GE(Contrast(c.text, c.selection), 4.5);
-        EXPECT_GE(Contrast(c.accentText, c.accent), 4.5);
+        EXPECT_GE(Contrast(c.quietText, c.selection), 4.5); // a heading under the mouse
+        for (const QColor& ground : {c.accent, c.accentFocused})
+            EXPECT_GE(Contrast(c.accentText, ground), 4.5) << ground.name().toStdString();
+        EXPECT_GE(Contrast(c.text, c.accentFocused), 3) << "the focus mark of a primary button";
         for (const QColor& sign : {c.danger, c.warning}) EXPECT_GE(Contrast(sign, c.window), 3);
     }
 }

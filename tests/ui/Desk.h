@@ -52,6 +52,14 @@ private:
     std::deque<QMessageBox::StandardButton> answers_;
 };
 
+// Its clock stands where the test sets it.
+class ClockedDesktop : public ui::QtDesktop {
+public:
+    using QtDesktop::QtDesktop;
+    DateTime Now() override { return now; }
+    DateTime now{*MakeDate(2026, 3, 14)};
+};
+
 class UiTest : public ::testing::Test {
 protected:
     template <typename ScreenType>
@@ -71,7 +79,7 @@ protected:
 
     Regional regional;
     Boxes boxes;
-    ui::QtDesktop desktop{std::filesystem::temp_directory_path(), regional};
+    ClockedDesktop desktop{std::filesystem::temp_directory_path(), regional};
 };
 
 } // namespace varnik::test

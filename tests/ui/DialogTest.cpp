@@ -3,6 +3,7 @@
 #include "tests/ui/Desk.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QProgressDialog>
 #include <QTemporaryDir>
@@ -41,15 +42,15 @@ TEST_F(Dialogs, ANameToSaveUnderGetsTheEndingOfTheFilter) {
 
 // Short work shows nothing; what takes longer shows what is done, and can be stopped.
 TEST_F(Dialogs, LongWorkShowsAndIsStopped) {
+    QElapsedTimer running;
+    running.start();
     const std::unique_ptr<Waiting> waiting = desktop.Wait("Looking for rows ...");
-    EXPECT_TRUE(waiting->GoOn());
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     const auto bar = [] { return qobject_cast<QProgressDialog*>(QApplication::activeModalWidget()); };
-    while (waiting->GoOn() && !bar()) continue;
-    ASSERT_NE(bar(), nullptr);
+    ASSERT_TRUE(Until([&] { return waiting->GoOn() && bar(); }));
+    EXPECT_GE(running.elapsed(), 400) << "milliseconds that work may take unseen";
     EXPECT_EQ(bar()->labelText(), "Looking for rows ...");
     QTest::keyClick(bar(), Qt::Key_Escape);
-    while (waiting->GoOn()) continue;
+    EXPECT_TRUE(Until([&] { return !waiting->GoOn(); }));
     EXPECT_FALSE(waiting->GoOn());
 }
 

@@ -35,6 +35,7 @@ struct Node {
     int labelWidth = 0;    // characters kept free for it, where its caption changes
     int width = 0;         // characters of a field, visible rows of a table, pixels of a picture; 0: as usual
     int height = 0;        // pixels of a picture, lines of a text; 0: as usual
+    int wide = 0;          // pixels that a table has at least; 0: as usual
     int span = 1;          // cells of the form that it fills
     int share = 0;         // of the room left over, against its neighbours
     bool primary = false;  // the button that finishes the work
@@ -55,6 +56,7 @@ struct Node {
     Node Span(int cells) && { return span = cells, std::move(*this); }
     Node Share(int part) && { return share = part, std::move(*this); }
     Node High(int lines) && { return height = lines, std::move(*this); }
+    Node Wide(int pixels) && { return wide = pixels, std::move(*this); }
     Node Primary() && { return primary = true, std::move(*this); }
     Node Total() && { return total = true, std::move(*this); }
     Node Title() && { return title = true, std::move(*this); }

@@ -36,7 +36,8 @@ Page Users() {
          Spring()});
     return {"fuser", Family::Master,
             Column({std::move(tools),
-                    Row({std::move(user), Card("Access", Table("grdCari", 17).Label("Access")).Share(1)})
+                    Row({std::move(user),
+                         Card("Access", Table("grdCari", 17).Wide(410).Label("Access")).Share(1)})
                         .Share(1)})};
 }
 
