@@ -22,8 +22,8 @@ namespace {
 
 class Photographer {
 public:
-    Photographer(const std::filesystem::path& data, QString pictures)
-        : pictures_(std::move(pictures)),
+    Photographer(const std::filesystem::path& data, const QString& pictures)
+        : pictures_(QDir().absoluteFilePath(pictures)), // the program moves into its folder
           desktop_(PrepareProgramFolder(data), regional_),
           program_(desktop_, regional_) {
         QDir().mkpath(pictures_);
