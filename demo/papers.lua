@@ -7,6 +7,8 @@ local folder = arg[1]
 local Period, TwoWeeks = 90, 14
 local function days_ago(days, format) return os.date(format, os.time() - days * 86400) end
 
+-- Books ask for the first of the month with the day first: so a machine that writes it so has their balances.
+regional {date = "dd/mm/yyyy", decimal = ".", group = ","}
 start()
 login("varnik", "kemiri")
 
