@@ -208,6 +208,9 @@ void Open(const fs::path& folder) {
     fs::permissions(folder / "Data", fs::perms(0777), ignored);
 }
 
+// A copy beside the shop: the reader without rights may have none on the folder of the scripts.
+fs::path Script(const Soak& soak) { return soak.Folder("files.lua"); }
+
 using Outcomes = std::map<std::string, std::map<std::string, long>>; // by kind of file and what came of it
 
 void AsOwn(Soak& soak, const Sample& sample, Outcomes& outcomes) {
@@ -218,7 +221,7 @@ void AsOwn(Soak& soak, const Sample& sample, Outcomes& outcomes) {
     std::optional<Books> own;
     if (std::string_view(sample.name).starts_with("without")) own = BookReader(file).Read();
     const auto namesBefore = Names(folder / "Data");
-    const auto found = Meet({soak.options.scripts / "files.lua", {"work"}}, folder, sample.asReader);
+    const auto found = Meet({Script(soak), {"work"}}, folder, sample.asReader);
     Open(folder);
     ++outcomes[sample.name][found.word];
     const std::string where =
@@ -245,8 +248,7 @@ void AsBackup(Soak& soak, const Sample& sample, Outcomes& outcomes) {
     fs::copy_file(Database(folder), backup);
     sample.make(soak, backup);
     const Books before = BookReader(Database(folder)).Read();
-    const auto found =
-        Meet({soak.options.scripts / "files.lua", {"restore", backup.string()}}, folder, false);
+    const auto found = Meet({Script(soak), {"restore", backup.string()}}, folder, false);
     std::error_code ignored;
     fs::permissions(backup.parent_path(), fs::perms(0777), ignored);
     ++outcomes[sample.name]["as a backup " + found.word];
@@ -260,7 +262,7 @@ void AsBackup(Soak& soak, const Sample& sample, Outcomes& outcomes) {
     soak.Holds(reader.Integrity() == "ok", where + "the database is damaged");
     if (found.word == "kept") soak.Holds(reader.Read() == before, where + "the database was changed");
     if (found.word == "restored") {
-        const auto next = Meet({soak.options.scripts / "files.lua", {"work"}}, folder, false);
+        const auto next = Meet({Script(soak), {"work"}}, folder, false);
         soak.Holds(next.word == "worked", where + "then " + next.word + " " + next.text);
     }
 }
@@ -277,6 +279,8 @@ long Files(Soak& soak) {
     for (const auto& entry : fs::recursive_directory_iterator(soak.Folder("shop")))
         fs::permissions(entry.path(), fs::perms(fs::is_directory(entry.path()) ? 0777 : 0666));
     fs::permissions(soak.Folder("shop"), fs::perms(0777));
+    fs::copy_file(soak.options.scripts / "files.lua", Script(soak));
+    fs::permissions(Script(soak), fs::perms(0644));
 
     Outcomes outcomes;
     long tried = 0;
