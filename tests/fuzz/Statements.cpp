@@ -19,6 +19,7 @@ class EmptyTables {
 public:
     EmptyTables() : folder_(fs::temp_directory_path() / ("varnik-fuzz-" + std::to_string(getpid()))) {
         walk::StatementWatch::Install();
+        fs::remove_all(folder_); // of a killed process of the same number
         fs::create_directories(folder_);
         const fs::path file = folder_ / "x.mdb";
         fs::remove(file);

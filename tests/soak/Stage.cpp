@@ -20,6 +20,7 @@ Soak::Soak(const Options& given)
     : options(given),
       folder_(fs::temp_directory_path() / ("varnik-soak-" + std::to_string(getpid()))),
       chance_(given.seed) {
+    fs::remove_all(folder_); // of a killed process of the same number
     fs::create_directories(folder_);
 }
 

@@ -42,6 +42,7 @@ protected:
     DatabaseTest() {
         folder = std::filesystem::temp_directory_path() /
                  ("varnik-ado-" + std::to_string(getpid()) + "-" + std::to_string(++count_));
+        std::filesystem::remove_all(folder); // of a killed process of the same number
         std::filesystem::create_directories(folder);
         file = folder / "Varnik.mdb";
         environment.catalog = {TestTables};

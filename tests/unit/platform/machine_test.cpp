@@ -48,6 +48,7 @@ class RegistryFile : public testing::Test {
 protected:
     void SetUp() override {
         folder_ = std::filesystem::path(testing::TempDir()) / ("registry" + std::to_string(getpid()));
+        std::filesystem::remove_all(folder_); // of a killed process of the same number
         std::filesystem::create_directories(folder_);
         file_ = folder_ / "registry.ini";
     }

@@ -22,8 +22,11 @@ namespace {
 constexpr std::size_t TrailLength = 25;
 constexpr const char* mainWindow = "frmMainCode";
 
+// Not there yet: a killed process of the same number may have left its own.
 fs::path Folder(const std::string& name) {
-    return fs::temp_directory_path() / ("varnik-walk-" + std::to_string(getpid()) + "-" + name);
+    fs::path folder = fs::temp_directory_path() / ("varnik-walk-" + std::to_string(getpid()) + "-" + name);
+    fs::remove_all(folder);
+    return folder;
 }
 
 // The shop that all walks of this process begin in, built once.
