@@ -110,8 +110,8 @@ void OtherReceive::DeleteReceipt() {
         // where that is a comma; and no blank stands before Where.
         step.Step([&] {
             Data().Execute("Update Bank Set SaldoAkhir = SaldoAkhir - " +
-                           Masked(NullToNumber(receipt["Jumlah"], services_.regional)) + "Where RekID ='" +
-                           TextOf(receipt["RekID"]) + "'");
+                           MaskedInSql(NullToNumber(receipt["Jumlah"], services_.regional)) +
+                           "Where RekID ='" + TextOf(receipt["RekID"]) + "'");
         });
         step.Step([&] { receipt.Delete(); });
     });

@@ -133,6 +133,8 @@ std::string ShortDate(DateTime date, const Regional& regional) {
         return d + s + m + s + y;
     case DateOrder::YearMonthDay:
         return y + s + m + s + d;
+    case DateOrder::YearDayMonth:
+        return y + s + d + s + m;
     case DateOrder::MonthDayYear:
         break;
     }
@@ -223,9 +225,13 @@ std::optional<DateTime> ParseDate(std::string_view text, const Regional& regiona
     // A four-digit first part is a year in every order, so ISO is read on every machine.
     // One with four digits at the end is no day: there the day comes first where the machine has no say.
     const bool yearLast = parts[2].size() == 4;
-    const bool yearFirst = parts[0].size() == 4 || (regional.order == DateOrder::YearMonthDay && !yearLast);
+    const bool ofYearFirst =
+        regional.order == DateOrder::YearMonthDay || regional.order == DateOrder::YearDayMonth;
+    const bool yearFirst = parts[0].size() == 4 || (ofYearFirst && !yearLast);
+    const bool iso = parts[0].size() == 4 && trimmed.find('-') == 4 && Trim(regional.dateSeparator) != "-";
     const int y = yearFirst ? 0 : 2;
-    const int m = yearFirst || regional.order != DateOrder::MonthDayYear ? 1 : 0;
+    const int m = yearFirst ? (regional.order == DateOrder::YearDayMonth && !iso ? 2 : 1)
+                            : (regional.order == DateOrder::MonthDayYear ? 0 : 1);
     const int d = 3 - y - m;
     if (parts[y].size() == 3 || parts[m].size() > 2 || parts[d].size() > 2) return std::nullopt;
     const auto number = [&](int i) { return std::atoi(std::string(parts[i]).c_str()); };
@@ -254,6 +260,10 @@ std::string FormatNumber(double number, std::string_view mask, const Regional& r
 
 std::string PlainNumber(double number, const Regional& regional) { return Plain(number, regional.decimal); }
 std::string SqlNumber(double number) { return Plain(number, '.'); }
+
+std::string MaskedInSql(double number, const Regional& regional) {
+    return FormatNumber(number, regional.group == ',' ? "#,##0" : "#0", regional);
+}
 
 bool IsNumeric(std::string_view text, const Regional& regional) {
     std::string trimmed = Trim(text);

@@ -11,7 +11,7 @@
 
 namespace varnik {
 
-enum class DateOrder { MonthDayYear, DayMonthYear, YearMonthDay };
+enum class DateOrder { MonthDayYear, DayMonthYear, YearMonthDay, YearDayMonth };
 
 struct Regional {
     DateOrder order = DateOrder::MonthDayYear;
@@ -40,6 +40,10 @@ std::string FormatNumber(double number, std::string_view mask, const Regional& r
 std::string PlainNumber(double number, const Regional& regional);
 // The same with a full stop, for SQL text.
 std::string SqlNumber(double number);
+// An amount that a statement takes as "#,##0" shows it. Wanted: a comma between the groups goes into the
+// statement too, which then fails from 1,000 on. No other separator does: no machine books another amount
+// than the one shown.
+std::string MaskedInSql(double number, const Regional& regional);
 // Whether the whole text reads as a number under the machine's settings (sign, grouping, blanks around).
 bool IsNumeric(std::string_view text, const Regional& regional);
 // Whether the text reads as a date.

@@ -35,9 +35,14 @@ void Today(Stage& stage, Call& call) {
 
 // "dd/mm/yyyy": order, separator and the digits of the year.
 void ReadDateForm(const std::string& form, Regional& regional) {
-    static const std::map<char, DateOrder> orders = {
-        {'m', DateOrder::MonthDayYear}, {'d', DateOrder::DayMonthYear}, {'y', DateOrder::YearMonthDay}};
-    const auto order = orders.find(form.empty() ? ' ' : form[0]);
+    static const std::map<std::string, DateOrder> orders = {{"mdy", DateOrder::MonthDayYear},
+                                                            {"dmy", DateOrder::DayMonthYear},
+                                                            {"ymd", DateOrder::YearMonthDay},
+                                                            {"ydm", DateOrder::YearDayMonth}};
+    std::string letters; // each once, in the order of its piece
+    for (const char c : form)
+        if (std::string_view("dmy").find(c) != std::string_view::npos && !letters.ends_with(c)) letters += c;
+    const auto order = orders.find(letters);
     const auto separator = form.find_first_not_of("dmy");
     const auto years = std::ranges::count(form, 'y');
     if (order == orders.end() || separator == std::string::npos || (years != 2 && years != 4))

@@ -65,15 +65,15 @@ fBank::fBank(Services& services) : MasterScreen(services, row) {
         "Receipts from customers read the first character, supplier payments the first three");
 }
 
-// The balances go in with the mask: from 1,000 on a separator stands in the statement, which then fails in
+// The balances go in with the mask: from 1,000 on a comma stands in the statement, which then fails in
 // silence. Such a balance is entered with Edit. Wanted.
 void fBank::InsertRecord() {
     Resume([&] {
         Execute("INSERT INTO BANK (RekID,NamaBank,NoRek,JenisRek,NamaPemilik,SaldoAwal,SaldoAkhir,"
                 "Keterangan,DefaultKas ) Values (" +
                 Quoted(txtRekID) + "," + Quoted(TxtNamaBank) + "," + Quoted(txtNoRek) + "," +
-                Quoted(txtJenisRek) + "," + Quoted(txtNamaPemilik) + "," + Masked(Number(txtSaldoAwal)) +
-                "," + Masked(Number(txtSaldoAkhir)) + "," + Quoted(txtket) +
+                Quoted(txtJenisRek) + "," + Quoted(txtNamaPemilik) + "," + MaskedInSql(Number(txtSaldoAwal)) +
+                "," + MaskedInSql(Number(txtSaldoAkhir)) + "," + Quoted(txtket) +
                 (Check1.Checked() ? ",True)" : ",False)"));
     });
     main_.Requery();

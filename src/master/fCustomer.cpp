@@ -140,7 +140,7 @@ void fCustomer::InsertRecord() {
     main_.Requery();
 }
 
-// Terms and discounts go in with the mask: from 1,000 on a separator stands in the statement, which then
+// Terms and discounts go in with the mask: from 1,000 on a comma stands in the statement, which then
 // fails with the database's own words. Wanted.
 void fCustomer::UpdateRecord() {
     if (!Exists()) return;
@@ -148,10 +148,10 @@ void fCustomer::UpdateRecord() {
             ",Alamat_2 = " + Quoted(txtAlamat_2) + ",Alamat_3 = " + Quoted(txtAlamat_3) +
             ",Kota = " + Quoted(txtKota) + ",Telp = " + Quoted(txtTelp) + ",Fax = " + Quoted(txtFax) +
             ",Contax = " + Quoted(txtContax) + ",Jabatan = " + Quoted(txtJabatan) +
-            ",nDis = " + Masked(Number(txtnDis)) + ",nwDis = " + Masked(Number(txtnwDis)) +
-            ",nJTP = " + Masked(Number(txtnJTP)) + ",SaldoAwal = " + Amount(txtSaldoAwal) + ",SaldoAkhir = " +
-            Amount(txtSaldoAkhir) + ",Ket = " + Quoted(txtket) + ",NPWP = " + Quoted(TxtNPWP) +
-            ",JenisCus = " + Quoted(TxtJenis) + "  Where KodeCus = " + Quoted(Code()));
+            ",nDis = " + MaskedInSql(Number(txtnDis)) + ",nwDis = " + MaskedInSql(Number(txtnwDis)) +
+            ",nJTP = " + MaskedInSql(Number(txtnJTP)) + ",SaldoAwal = " + Amount(txtSaldoAwal) +
+            ",SaldoAkhir = " + Amount(txtSaldoAkhir) + ",Ket = " + Quoted(txtket) + ",NPWP = " +
+            Quoted(TxtNPWP) + ",JenisCus = " + Quoted(TxtJenis) + "  Where KodeCus = " + Quoted(Code()));
 }
 
 } // namespace varnik

@@ -24,7 +24,7 @@ void Faktur::ReverseFaktur(const std::string& number) {
         // Wanted: the stray quote and blank stay, so the statement fails and the balance keeps the purchase.
         step.Step([&] {
             Data().Execute("UPDATE SUPPLIER SET  SaldoAkhir = SaldoAkhir -  " +
-                           Masked(Amount(purchase, "Total")) + "' Where KodeSup = ' " + code + "'");
+                           MaskedInSql(Amount(purchase, "Total")) + "' Where KodeSup = ' " + code + "'");
         });
         const std::string memo = "Purchases (DELETED) Po No. " + Trim(number) + " Sup. " + code + " " +
                                  Trim(supplier_.TxtNamaSup.Text());

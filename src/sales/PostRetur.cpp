@@ -113,9 +113,9 @@ void InvoiceRetur::DeleteRetur() {
         std::string invoice, code, total;
         step.Step([&] { invoice = TextOf(retur["NoInvoice"]); });
         step.Step([&] { code = TextOf(retur["KodeCus"]); });
-        step.Step([&] { total = Masked(NullToNumber(retur["Total"], services_.regional)); });
-        // Wanted: the balance gets the truth value of a comparison, and from 1,000 on the separator of the
-        // mask makes both statements fail.
+        step.Step([&] { total = MaskedInSql(NullToNumber(retur["Total"], services_.regional)); });
+        // Wanted: the balance gets the truth value of a comparison, and from 1,000 on a comma as the
+        // separator of the mask makes both statements fail.
         step.Step([&] {
             Data().Execute("Update Invoice Set Bayar=Bayar - " + total + " , Saldo = Saldo =" + total +
                            " Where NoInvoice = '" + invoice + "'");

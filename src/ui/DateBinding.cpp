@@ -108,6 +108,8 @@ private:
             return day + separator + month + separator + year;
         case DateOrder::YearMonthDay:
             return year + separator + month + separator + day;
+        case DateOrder::YearDayMonth:
+            return year + separator + day + separator + month;
         default:
             return month + separator + day + separator + year;
         }

@@ -17,7 +17,7 @@ Regional MachineOf(std::string_view& input) {
     const unsigned char choice = input.empty() ? 0 : static_cast<unsigned char>(input[0]);
     if (!input.empty()) input.remove_prefix(1);
     Regional regional;
-    regional.order = static_cast<DateOrder>(choice % 3);
+    regional.order = static_cast<DateOrder>(choice % 4);
     regional.fourDigitYear = (choice & 4) != 0;
     static constexpr const char* separators[] = {"/", "-", ".", " ", ". ", "", "d", "00"};
     regional.dateSeparator = separators[choice >> 3 & 7];

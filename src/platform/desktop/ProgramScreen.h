@@ -28,6 +28,7 @@ protected:
     std::string Masked(double number, std::string_view mask = "#,##0") const {
         return FormatNumber(number, mask, services_.regional);
     }
+    std::string MaskedInSql(double number) const { return varnik::MaskedInSql(number, services_.regional); }
     std::string TextOf(const Value& value) const { return NullToText(value, services_.regional); }
     std::string Shown(const Value& value) const { return ShowValue(value, services_.regional); }
     bool Numeric(std::string_view text) const { return IsNumeric(text, services_.regional); }

@@ -35,11 +35,12 @@ Regional FromPatterns(std::string_view date, std::string_view decimal, std::stri
     // Years always have four digits here, in locales with short ones too: a due date of 2030 would be
     // read back as 1930. Blanks around the separator are dropped, so that a date has ten characters.
     separator = Trim(separator);
-    const bool known = order == "mdY" || order == "dmY" || order == "Ymd";
+    const bool known = order == "mdY" || order == "dmY" || order == "Ymd" || order == "Ydm";
     if (known && separator.size() == 1) {
         regional.order = order == "mdY"   ? DateOrder::MonthDayYear
                          : order == "dmY" ? DateOrder::DayMonthYear
-                                          : DateOrder::YearMonthDay;
+                         : order == "Ymd" ? DateOrder::YearMonthDay
+                                          : DateOrder::YearDayMonth;
         regional.dateSeparator = separator;
     }
     if (decimal.size() == 1) regional.decimal = decimal[0];

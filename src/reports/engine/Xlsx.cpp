@@ -24,6 +24,8 @@ std::string DateFormat(const Regional& regional) {
         return "dd/mm/yyyy";
     case DateOrder::YearMonthDay:
         return "yyyy-mm-dd";
+    case DateOrder::YearDayMonth:
+        return "yyyy/dd/mm";
     case DateOrder::MonthDayYear:
         break;
     }

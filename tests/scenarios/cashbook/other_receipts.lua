@@ -198,16 +198,14 @@ click "bttnLast"
 expect(text "TxtJumlah", "75.00")
 stop()
 
-scenario "Where the group separator is a full stop, the deletion takes a thousandth"
+scenario "Where the group separator is a full stop, the deletion takes the amount as it was booked"
 regional{date = "dd/mm/yyyy", decimal = ",", group = "."}
 start()
 login("varnik", "kemiri")
 open "T08"
-before = books()
 local third = receive("CASH", "1", "1.234,5")
 expect(text "TxtJumlah", "1.234,50")
 click "bttnSave"
 expect(value "Select SaldoAkhir From Bank Where RekID = '1'", 1235)
 remove(third)
-expect(message(), nil)
-expect(value "Select SaldoAkhir From Bank Where RekID = '1'", 1233.765)
+expect({message(), value "Select SaldoAkhir From Bank Where RekID = '1'"}, {nil, 0})

@@ -8,6 +8,7 @@ namespace {
 const Regional English{};
 const Regional German{DateOrder::DayMonthYear, ".", true, ',', '.'};
 const Regional Swedish{DateOrder::YearMonthDay, "-", true, ',', ' '};
+const Regional DayInTheMiddle{DateOrder::YearDayMonth, "/", true, '.', '\''};
 
 TEST(Regional, MasksRoundHalfAwayFromZeroOnTheDecimalText) {
     struct Case {
@@ -40,6 +41,10 @@ TEST(Regional, MasksRoundHalfAwayFromZeroOnTheDecimalText) {
 TEST(Regional, PlainNumbersHaveNoBinaryTail) {
     EXPECT_EQ(PlainNumber(0.1 + 0.2, German), "0,3");
     EXPECT_EQ(SqlNumber(-1234.5), "-1234.5");
+    // Into a statement a comma goes as it is shown, any other separator does not.
+    EXPECT_EQ(MaskedInSql(-1234.5, English) + " " + MaskedInSql(999.4, English), "-1,235 999");
+    for (const auto& regional : {German, Swedish, DayInTheMiddle})
+        EXPECT_EQ(MaskedInSql(-1234.5, regional) + " " + MaskedInSql(0, regional), "-1235 0");
     EXPECT_EQ(SqlNumber(-0.0), "0");
     EXPECT_EQ(SqlNumber(1e20), "100000000000000000000");
     EXPECT_EQ(SqlNumber(0.000123), "0.000123");
@@ -63,6 +68,8 @@ TEST(Regional, DatesAreReadInTheMachinesOrder) {
     for (const char* text : {"04.03.2026", "4/3/26", "2026-03-04", "4. 3. 2026"})
         EXPECT_EQ(ParseDate(text, German), date) << text;
     EXPECT_EQ(ParseDate("26-3-4", Swedish), date);
+    for (const char* text : {"2026/04/03", "26/4/3", "2026.4.3", "2026-03-04", "4/3/2026"})
+        EXPECT_EQ(ParseDate(text, DayInTheMiddle), date) << text;
     EXPECT_EQ(ParseDate("04/ 3/ 2026", Swedish), date); // no day has four digits
     EXPECT_EQ(ParseDate("4/3/2026 09:30:05", German), MakeDate(2026, 3, 4, 9 * 3600 + 30 * 60 + 5));
     EXPECT_EQ(ParseDate("1/1/30", English), MakeDate(1930, 1, 1));
@@ -76,7 +83,7 @@ TEST(Regional, DatesAreReadInTheMachinesOrder) {
 
 TEST(Regional, ShortDatesAndMasksAgree) {
     const DateTime date = *MakeDate(2026, 3, 4, 9 * 3600 + 5);
-    for (const auto& regional : {English, German, Swedish})
+    for (const auto& regional : {English, German, Swedish, DayInTheMiddle})
         EXPECT_EQ(FormatDate(date, DateMaskOfMachine(regional)), ShortDate(date, regional));
     EXPECT_EQ(FormatDate(date, "dd-mm-yyyy hh:mm:ss"), "04-03-2026 09:00:05");
     EXPECT_EQ(FormatDate(date, "hh:mm mm"), "09:00 03");
