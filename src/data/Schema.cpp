@@ -23,12 +23,17 @@ constexpr Column Long(std::string_view name) { return {name, ColumnType::Long, 0
 constexpr Column Short(std::string_view name) { return {name, ColumnType::Short, 0, true}; }
 constexpr Column Boolean(std::string_view name) { return {name, ColumnType::Boolean, 0, true}; }
 constexpr Column Decimal(std::string_view name) { return {name, ColumnType::Decimal, 0, true}; }
+// Postings add to these, several programs at once.
+constexpr Column Sum(Column column) {
+    column.accumulates = true;
+    return column;
+}
 constexpr Column Counter(std::string_view name) { return {name, ColumnType::Long, 0, true, true}; }
 
 // Cash and bank accounts.
-constexpr Column BankColumns[] = {Text("RekID", 3),     Text("NamaBank", 50),    Text("NamaPemilik", 50),
-                                  Text("NoRek", 50),    Text("JenisRek", 20),    Double("SaldoAwal"),
-                                  Double("SaldoAkhir"), Text("Keterangan", 100), Boolean("DefaultKas")};
+constexpr Column BankColumns[] = {Text("RekID", 3),          Text("NamaBank", 50),    Text("NamaPemilik", 50),
+                                  Text("NoRek", 50),         Text("JenisRek", 20),    Double("SaldoAwal"),
+                                  Sum(Double("SaldoAkhir")), Text("Keterangan", 100), Boolean("DefaultKas")};
 
 // Opening and closing balance of an account by month; no key.
 constexpr Column BankSaldoColumns[] = {Long("Bulan"), Long("Tahun"), Needed("RekID", 3), Double("SaldoAwal"),
@@ -58,12 +63,12 @@ constexpr Column CompanyColumns[] = {Needed("NamaPerusahaan", 50), Needed("Ket1"
                                      Needed("Ket3", 100)};
 
 // Customers.
-constexpr Column CustomerColumns[] = {Needed("KodeCus", 10), Text("JenisCus", 3),  Text("NamaCus", 50),
-                                      Text("Alamat_1", 50),  Text("Alamat_2", 50), Text("Alamat_3", 50),
-                                      Text("Kota", 50),      Text("Telp", 20),     Text("Fax", 20),
-                                      Text("Contax", 30),    Text("Jabatan", 50),  Double("nDIS"),
-                                      Short("nwDis"),        Short("nJTP"),        Text("Ket", 200),
-                                      Single("SaldoAkhir"),  Single("SaldoAwal"),  Text("NPWP", 30)};
+constexpr Column CustomerColumns[] = {
+    Needed("KodeCus", 10), Text("JenisCus", 3),  Text("NamaCus", 50), Text("Alamat_1", 50),
+    Text("Alamat_2", 50),  Text("Alamat_3", 50), Text("Kota", 50),    Text("Telp", 20),
+    Text("Fax", 20),       Text("Contax", 30),   Text("Jabatan", 50), Double("nDIS"),
+    Short("nwDis"),        Short("nJTP"),        Text("Ket", 200),    Sum(Single("SaldoAkhir")),
+    Single("SaldoAwal"),   Text("NPWP", 30)};
 
 // Balance per customer and month.
 constexpr Column CustomerSaldoColumns[] = {Long("Bulan"), Long("Tahun"), Needed("KodeCus", 10),
@@ -73,7 +78,7 @@ constexpr Column CustomerSaldoColumns[] = {Long("Bulan"), Long("Tahun"), Needed(
 constexpr Column FakturColumns[] = {
     Needed("NoFaktur", 12), Text("NoFakSup", 30), Date("TglFaktur"), Date("TglJtp"),  Text("KodeSup", 10),
     Text("TglCetak", 20),   Single("Bruto"),      Single("Netto"),   Long("Disc"),    Single("Total"),
-    Double("Bayar"),        Double("Saldo"),      Text("NoUser", 2), Text("Ket", 100)};
+    Sum(Double("Bayar")),   Sum(Double("Saldo")), Text("NoUser", 2), Text("Ket", 100)};
 
 // What of a BKK paid which purchase invoice.
 constexpr Column FakturBayarColumns[] = {Needed("NoBKK", 12),  Date("TglBKK"),    Text("NoFaktur", 12),
@@ -81,11 +86,11 @@ constexpr Column FakturBayarColumns[] = {Needed("NoBKK", 12),  Date("TglBKK"),  
                                          Text("CaraBayar", 20)};
 
 // Purchase lines. Each is a lot: QtySisa is what of it is not yet sold, in base units.
-constexpr Column FakturDetailColumns[] = {Needed("NoFaktur", 12), Date("TglFaktur"),      Text("KodeSup", 10),
-                                          Text("KodeBrg", 10),    Text("Diskripsi", 100), Single("Qty"),
-                                          Long("Qty2"),           Text("Satuan", 15),     Single("Harga"),
-                                          Single("Disc"),         Single("Total"),        Boolean("Jasa"),
-                                          Single("QtyOrder"),     Single("QtyRetur"),     Single("QtySisa")};
+constexpr Column FakturDetailColumns[] = {
+    Needed("NoFaktur", 12),  Date("TglFaktur"),       Text("KodeSup", 10),   Text("KodeBrg", 10),
+    Text("Diskripsi", 100),  Single("Qty"),           Long("Qty2"),          Text("Satuan", 15),
+    Single("Harga"),         Single("Disc"),          Single("Total"),       Boolean("Jasa"),
+    Sum(Single("QtyOrder")), Sum(Single("QtyRetur")), Sum(Single("QtySisa"))};
 
 // Purchase returns: the return number stands in NoFaktur, the invoice it returns in NoPO.
 constexpr Column FakturReturColumns[] = {
@@ -103,8 +108,8 @@ constexpr Column FakturReturDetailColumns[] = {
 constexpr Column InvoiceColumns[] = {
     Needed("NoInvoice", 12), Text("CusPO", 30),   Date("TglInvoice"),     Date("TglJtp"),
     Needed("KodeCus", 10),   Single("Bruto"),     Single("Disc"),         Single("Netto"),
-    Single("Total"),         Double("nPPN"),      Single("PPN"),          Double("Bayar"),
-    Double("Saldo"),         Needed("NoUser", 2), Text("Terbilang", 100), Text("Ket", 100)};
+    Single("Total"),         Double("nPPN"),      Single("PPN"),          Sum(Double("Bayar")),
+    Sum(Double("Saldo")),    Needed("NoUser", 2), Text("Terbilang", 100), Text("Ket", 100)};
 
 // What of a BKM paid which sales invoice.
 constexpr Column InvoiceBayarColumns[] = {Needed("NoBKM", 12), Text("NoInvoice", 12), Date("TglBKM"),
@@ -112,13 +117,27 @@ constexpr Column InvoiceBayarColumns[] = {Needed("NoBKM", 12), Text("NoInvoice",
                                           Text("Memo", 100)};
 
 // Sales lines.
-constexpr Column InvoiceDetailColumns[] = {Text("NoInvoice", 12), Date("TglInvoice"),     Text("KodeCus", 10),
-                                           Text("KodeBrg", 10),   Text("Diskripsi", 100), Double("Qty"),
-                                           Long("Qty2"),          Text("Satuan", 15),     Single("Harga"),
-                                           Single("Bruto"),       Single("Disc"),         Single("Netto"),
-                                           Double("nDIS"),        Double("nPPN"),         Single("PPN"),
-                                           Single("Total"),       Boolean("Jasa"),        Single("QtyOrder"),
-                                           Single("QtyRetur"),    Single("HPP"),          Single("HPPRATA")};
+constexpr Column InvoiceDetailColumns[] = {Text("NoInvoice", 12),
+                                           Date("TglInvoice"),
+                                           Text("KodeCus", 10),
+                                           Text("KodeBrg", 10),
+                                           Text("Diskripsi", 100),
+                                           Double("Qty"),
+                                           Long("Qty2"),
+                                           Text("Satuan", 15),
+                                           Single("Harga"),
+                                           Single("Bruto"),
+                                           Single("Disc"),
+                                           Single("Netto"),
+                                           Double("nDIS"),
+                                           Double("nPPN"),
+                                           Single("PPN"),
+                                           Single("Total"),
+                                           Boolean("Jasa"),
+                                           Sum(Single("QtyOrder")),
+                                           Sum(Single("QtyRetur")),
+                                           Single("HPP"),
+                                           Single("HPPRATA")};
 
 // Sales returns.
 constexpr Column InvoiceReturColumns[] = {
@@ -158,11 +177,11 @@ constexpr Column PersediaanColumns[] = {
     Counter("ID"),       Text("NoJurnal", 12), Text("NoRef", 12),   Date("Tanggal"),
     Text("KodeBrg", 10), Text("Memo", 100),    Text("NamaBrg", 50), Double("Harga1"),
     Double("Harga2"),    Text("JenisBrg", 3),  Text("Satuan", 20),  Long("Pecahan"),
-    Single("Qty1"),      Single("Qty2"),       Single("Saldo"),     Single("QtySisa")};
+    Single("Qty1"),      Single("Qty2"),       Single("Saldo"),     Sum(Single("QtySisa"))};
 
 // Which lot served which sale.
-constexpr Column PersediaanJualColumns[] = {Text("NoInvoice", 12), Text("NoPO", 12), Date("Tanggal"),
-                                            Needed("KodeBrg", 10), Decimal("Qty"),   Double("Harga")};
+constexpr Column PersediaanJualColumns[] = {Text("NoInvoice", 12), Text("NoPO", 12),    Date("Tanggal"),
+                                            Needed("KodeBrg", 10), Sum(Decimal("Qty")), Double("Harga")};
 
 // Which lot took back which return.
 constexpr Column PersediaanReturColumns[] = {
@@ -173,8 +192,8 @@ constexpr Column PersediaanReturColumns[] = {
 constexpr Column ProdukColumns[] = {
     Needed("KodeBrg", 10), Text("NamaBrg", 50),    Text("JenisBrg", 3), Text("Satuan", 20),
     Long("Pecahan"),       Text("SatuanBeli", 20), Long("PecahanBeli"), Text("SatuanJual", 20),
-    Long("PecahanJual"),   Double("QGudang"),      Double("QCounter"),  Double("OnOrder"),
-    Double("OnHand"),      Double("HPPAwal"),      Double("HPPAkhir"),  Double("HPPRata"),
+    Long("PecahanJual"),   Sum(Double("QGudang")), Double("QCounter"),  Double("OnOrder"),
+    Sum(Double("OnHand")), Double("HPPAwal"),      Double("HPPAkhir"),  Double("HPPRata"),
     Single("QAwal"),       Single("QJual"),        Single("QBeli"),     Long("HargaBeli"),
     Long("HargaJual"),     Text("KodeSup", 10),    Text("KodeRef", 20), Boolean("Jasa"),
     Text("Ket", 200)};
@@ -193,7 +212,7 @@ constexpr Column SupplierColumns[] = {
     Needed("KodeSup", 10), Text("NamaSup", 50), Text("Alamat_1", 50), Text("Alamat_2", 50),
     Text("Alamat_3", 50),  Text("Kota", 50),    Text("Telp", 20),     Text("Fax", 20),
     Text("Contax", 30),    Text("Jabatan", 50), Double("nDIS"),       Short("nwDis"),
-    Short("nJTP"),         Text("Ket", 200),    Double("SaldoAwal"),  Double("SaldoAkhir")};
+    Short("nJTP"),         Text("Ket", 200),    Double("SaldoAwal"),  Sum(Double("SaldoAkhir"))};
 
 // Balance per supplier and month.
 constexpr Column SupplierSaldoColumns[] = {Long("Tahun"), Long("Bulan"), Needed("KodeSup", 10),

@@ -67,7 +67,7 @@ void Faktur::PostLine(Guard& step, ado::Recordset& detail, int row, const std::s
         [&] { product.Open("Select * From Produk Where KodeBrg='" + Trim(line.KodeBrg) + "'", Data()); });
     step.Step([&] { known = !product.Empty(); });
     if (known) PostStock(step, product, line, memo);
-    step.Step([&] { detail.Update(); });
+    step.Update(detail);
 }
 
 void Faktur::PostStock(Guard& step, ado::Recordset& product, const purchases::PurchaseLine& line,

@@ -145,7 +145,7 @@ void Invoice::PostLine(Guard& step, ado::Connection& connection, ado::Recordset&
         };
         fillUnit("SatuanJual", "PecahanJual");
         fillUnit("Satuan", "Pecahan");
-        step.Step([&] { product.Update(); });
+        step.Update(product);
 
         step.Put(detail, {{"HPPRATA", [&] { return Number(product["HPPRATA"].Value()) * base; }}});
         if (!service) {

@@ -96,30 +96,58 @@ double ConsumeLots(Guard& step, ado::Connection& connection, const SaleLine& lin
                             {"Harga", unit}});
     };
 
-    if (!lots.IsOpen()) return cost;
-    ForEachRow(step, lots, [&] {
-        if (wanted <= Dust) return false;
-        step.Step([&] { open = Amount(lots, "QtySisa"); });
-        if (open <= 0) return true;
-        step.Step(
-            [&] { unit = ado::Divide(Amount(lots, "Total"), Amount(lots, "Qty") * Amount(lots, "Qty2")); });
+    // What is left of the lot in hand; false when another station drew from it meanwhile, so that it holds
+    // less than was taken. The lot then shows what it holds.
+    const auto saveRest = [&](double rest) {
+        bool saved = true;
+        step.Put(lots, {{"QtySisa", rest}});
+        step.Step([&] { saved = lots.UpdateAboveZero(); });
+        return saved;
+    };
+    // Takes from the lot in hand what it shows to be open; false when another station was faster, and then
+    // nothing of it stands.
+    const auto draw = [&] {
+        const double before = running;
         const bool enough = open > wanted;
         taken = enough ? wanted : open;
         running -= taken;
-        cost += taken * unit;
         OpenFirstLedgerRow(step, connection, line.KodeBrg, ledger);
+        std::optional<ado::Bookmark> first;
+        Resume([&] { first = ledger.GetBookmark(); }); // none is open
         Raise(step, ledger, "QtySisa", -taken);
         if (enough) {
-            step.PutRow(lots, {{"QtySisa", open - wanted}});
-            addMovement();
-            rememberLot();
-            wanted = 0;
+            if (saveRest(open - wanted)) {
+                addMovement();
+                rememberLot();
+                return true;
+            }
         } else {
             rememberLot();
             addMovement();
-            wanted -= taken;
-            step.PutRow(lots, {{"QtySisa", 0}});
+            if (saveRest(0)) return true;
+            step.Step([&] { drawn.Delete(); });
+            step.Step([&] { ledger.Delete(); });
         }
+        running = before;
+        if (!first) return false;
+        step.Step([&] { ledger.SetBookmark(*first); });
+        Raise(step, ledger, "QtySisa", taken);
+        return false;
+    };
+
+    if (!lots.IsOpen()) return cost;
+    ForEachRow(step, lots, [&] {
+        if (wanted <= Dust) return false;
+        for (;;) {
+            step.Step([&] { open = Amount(lots, "QtySisa"); });
+            if (open <= 0) return true;
+            step.Step([&] {
+                unit = ado::Divide(Amount(lots, "Total"), Amount(lots, "Qty") * Amount(lots, "Qty2"));
+            });
+            if (draw()) break;
+        }
+        cost += taken * unit;
+        wanted -= taken;
         return true;
     });
     return cost;

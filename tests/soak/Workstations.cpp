@@ -1,9 +1,6 @@
 // Workstations, each a process with a user of its own, post into one file at once. No box shows, the file
-// stays sound and every document is whole; what a statement changes in one go (the accounts of payments and
-// of other receipts, what is paid on a document) adds up exactly. What a posting reads, changes and writes
-// back may lose against another that does the same in between, and that is counted: the balances of
-// customers, suppliers and of the accounts behind the counter and of expenses, the stock of the goods, what
-// is left of a lot. A station alone loses nothing.
+// stays sound, every document is whole, and balances of customers, suppliers and accounts, the stock of the
+// goods and what is left of each lot are what the documents make them, however many post beside.
 
 #include "tests/soak/Books.h"
 #include "tests/soak/Stage.h"
@@ -18,7 +15,7 @@
 namespace varnik::soak {
 namespace {
 
-constexpr const char* Users[] = {"varnik", "budi", "tini", "agus"};
+constexpr const char* Users[] = {"varnik", "budi", "tini", "agus", "sari", "joko", "rina", "dewi"};
 
 struct Document {
     double amount = 0;
@@ -216,7 +213,7 @@ long Workstations(Soak& soak) {
     std::map<std::size_t, std::pair<long, Lost>> totals;
     for (long round = 0; soak.GoesOn(); ++round) {
         const std::size_t stations =
-            std::array<std::size_t, 4>{1, 4, 2, 4}[static_cast<std::size_t>(round % 4)];
+            std::array<std::size_t, 4>{8, 2, 4, 1}[static_cast<std::size_t>(round % 4)];
         const auto folder = soak.Copy("shop", "shared");
         std::vector<std::unique_ptr<Child>> children;
         const std::string seed = std::to_string(soak.Chance(1000000));
@@ -251,14 +248,14 @@ long Workstations(Soak& soak) {
         audit.Documents();
         audit.ExactSums();
         const Lost lost = audit.Losses();
-        soak.Holds(stations > 1 || !lost.Any(), where + "a station alone has lost something");
+        soak.Holds(!lost.Any(), where + "balances, goods or lots are not what the documents make them");
         auto& [posted, all] = totals[stations];
         posted += said.documents;
         all.partners += lost.partners, all.goods += lost.goods, all.lots += lost.lots;
         all.money += lost.money, all.pieces += lost.pieces, all.cash += lost.cash;
     }
     for (const auto& [stations, total] : totals)
-        std::cout << stations << " at once: " << total.first << " documents; lost, as it may be: balances of "
+        std::cout << stations << " at once: " << total.first << " documents; lost: balances of "
                   << total.second.partners << " partners by " << total.second.money << " in all, accounts by "
                   << total.second.cash << ", stock of " << total.second.goods << " goods by "
                   << total.second.pieces << " pieces, " << total.second.lots << " lots\n";

@@ -150,7 +150,16 @@ public:
     Field operator[](const char* name) { return (*this)[std::string_view(name)]; }
 
     void AddNew(); // yes/no columns start False, all else Null
+    // Writes the columns that were given a value. One whose column accumulates is raised by its change
+    // against the value read, whatever others wrote in between; where nobody did it is exactly the value
+    // given.
     void Update();
+    // As Update, but false, with nothing written and the row read anew, where others wrote in between and an
+    // accumulating column that was to end at 0 or above would end below it.
+    bool UpdateAboveZero();
+    // After an Update that refused one value (range, size, type): takes that value out of the row under edit,
+    // so that the rest can be saved. A new row gets 0 or "" in its place. False when no value was at fault.
+    bool LeaveOutRefused();
     void CancelUpdate();
     void Delete(); // the current row; the position stays on the deleted row until the next move
 

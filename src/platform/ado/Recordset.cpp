@@ -1,5 +1,6 @@
 #include "platform/ado/Connection.h"
 #include "platform/ado/Cursor.h"
+#include "platform/ado/RowStatements.h"
 
 namespace varnik::ado {
 namespace {
@@ -22,7 +23,8 @@ struct Recordset::Impl {
     Place place = Place::End;
     std::vector<std::optional<Value>> edits; // by column
     bool editing = false, adding = false;
-    bool failed = false; // the last Update was refused
+    bool failed = false;                // the last Update was refused
+    std::optional<std::size_t> refused; // for the value of this field
 
     Session& Alive() const {
         if (!connection || !connection->session || !cursor)
@@ -39,6 +41,7 @@ struct Recordset::Impl {
     }
     void Forget() {
         editing = adding = failed = false;
+        refused.reset();
         edits.clear();
     }
     void Load();
@@ -62,8 +65,22 @@ struct Recordset::Impl {
         if (place == Place::Deleted) throw DataError(RowGone, "The current record was deleted.");
         throw DataError(NoCurrentRecord, "There is no current record.");
     }
+    [[noreturn]] static void Vanished() {
+        throw DataError(RowGone, "The record was deleted by another user.");
+    }
+    // An edited value as its column keeps it; which one was refused is remembered.
+    Value ColumnValue(std::size_t field, const jet::Table& table) {
+        refused = field;
+        Value value =
+            ToColumn(*edits[field], table, *cursor->Fields()[field].column, *Alive().Surroundings().regional);
+        refused.reset();
+        return value;
+    }
     void Insert(const jet::Table& table);
-    void Save(const jet::Table& table);
+    bool Save(const jet::Table& table, bool aboveZero);
+    bool AddChanges(const jet::Table& table, const std::vector<WrittenColumn>& columns,
+                    std::vector<Value> changes, std::vector<Value>& values);
+    bool Write(bool aboveZero);
 };
 
 void Recordset::Impl::Load() {
@@ -72,6 +89,7 @@ void Recordset::Impl::Load() {
     std::shared_ptr<const jet::Form> form = session.FormOf(tokens);
     if (!form->statement.isSelect) throw DataError(SyntaxFault, "A recordset opens a SELECT only.");
     std::vector<Value> parameters = jet::Fill(*form, tokens, *session.Surroundings().regional);
+    place = Place::End; // also when the reading fails: on no row that others would take for one of these
     cursor = OpenCursor({session, std::move(form), std::move(parameters)});
     Move(cursor->First(), Place::End);
 }
@@ -90,7 +108,6 @@ const Value& Recordset::Impl::Current(std::size_t column) {
 // Every column of the table is written, so that all new rows of a table share one statement.
 void Recordset::Impl::Insert(const jet::Table& table) {
     Session& session = Alive();
-    const Regional& regional = *session.Surroundings().regional;
     std::vector<Value> row(table.columns.size());
     for (std::size_t i = 0; i < row.size(); ++i) {
         if (table.columns[i].type == jet::ColumnType::Boolean) row[i] = false;
@@ -98,8 +115,7 @@ void Recordset::Impl::Insert(const jet::Table& table) {
     for (std::size_t i = 0; i < edits.size(); ++i) {
         if (!edits[i]) continue;
         const jet::Column& column = *cursor->Fields()[i].column;
-        row[static_cast<std::size_t>(&column - table.columns.data())] =
-            ToColumn(*edits[i], table, column, regional);
+        row[static_cast<std::size_t>(&column - table.columns.data())] = ColumnValue(i, table);
     }
     for (std::size_t i = 0; i < row.size(); ++i) {
         const jet::Column& column = table.columns[i];
@@ -122,31 +138,68 @@ void Recordset::Impl::Insert(const jet::Table& table) {
     place = Place::Row;
 }
 
-void Recordset::Impl::Save(const jet::Table& table) {
+// Writes what was edited; false, with nothing written, where "aboveZero" is asked for and refused.
+bool Recordset::Impl::Save(const jet::Table& table, bool aboveZero) {
     Session& session = Alive();
-    const Regional& regional = *session.Surroundings().regional;
-    std::string text = "update \"" + std::string(table.name) + "\" set ";
-    std::vector<Value> values;
+    std::vector<std::size_t> fields; // those edited, and below what goes into each
+    std::vector<WrittenColumn> columns;
+    std::vector<Value> values, changes, read;
     for (std::size_t i = 0; i < edits.size(); ++i) {
         if (!edits[i]) continue;
         const jet::Column& column = *cursor->Fields()[i].column;
-        edits[i] = ToColumn(*edits[i], table, column, regional);
-        if (column.required && edits[i]->IsNull())
+        Value stored = ColumnValue(i, table);
+        if (column.required && stored.IsNull())
             throw EngineError{Fault::Required, std::string(table.name) + "." + std::string(column.name)};
-        values.push_back(*edits[i]);
-        text.append(values.size() > 1 ? ",\"" : "\"").append(column.name).append("\"=?");
-        text += std::to_string(values.size());
+        WrittenColumn& written = columns.emplace_back();
+        written.index = static_cast<std::size_t>(&column - table.columns.data());
+        const Value& old = cursor->Values()[i];
+        written.adds = column.accumulates && stored.IsDouble() && (old.IsDouble() || old.IsNull());
+        Value change = stored;
+        if (written.adds) {
+            const auto number = [](const Value& value) { return value.IsNull() ? 0 : value.Double(); };
+            written.floor = aboveZero && number(stored) >= 0;
+            change = number(stored) - number(old);
+            read.push_back(old);
+        }
+        fields.push_back(i);
+        values.push_back(std::move(stored));
+        changes.push_back(std::move(change));
     }
-    if (values.empty()) return;
-    values.emplace_back(cursor->Mark());
-    Running running(session.Compile(text + " where rowid=?" + std::to_string(values.size())), values);
-    const long changes = session.Write(running);
+    if (fields.empty()) return true;
     connection->wrote = true;
-    if (changes == 0) throw DataError(RowGone, "The record was deleted by another user.");
-    for (std::size_t i = 0; i < edits.size(); ++i) {
-        if (edits[i]) cursor->Values()[i] = *edits[i];
+    const Value mark = cursor->Mark();
+    {
+        std::vector<Value> parameters = values;
+        parameters.push_back(mark);
+        parameters.insert(parameters.end(), read.begin(), read.end());
+        Running running(session.Compile(UpdateStatement(table, columns, true)), parameters);
+        if (session.Write(running) == 0 && !AddChanges(table, columns, changes, values)) {
+            if (!aboveZero || !cursor->Goto(cursor->Mark())) Vanished();
+            return false;
+        }
     }
+    for (std::size_t at = 0; at < fields.size(); ++at) cursor->Values()[fields[at]] = std::move(values[at]);
     cursor->Changed();
+    return true;
+}
+
+// Where others wrote in between, or the row is gone: each accumulating column takes its change, and "values"
+// what came of it. False when no row was written.
+bool Recordset::Impl::AddChanges(const jet::Table& table, const std::vector<WrittenColumn>& columns,
+                                 std::vector<Value> changes, std::vector<Value>& values) {
+    if (std::ranges::none_of(columns, &WrittenColumn::adds)) return false;
+    Session& session = Alive();
+    const auto number = static_cast<std::size_t>(&table - session.Surroundings().catalog.tables.data());
+    changes.emplace_back(cursor->Mark());
+    Running running(session.Compile(AddStatement(table, number, columns)), changes);
+    bool written = false;
+    session.Write(running, [&] {
+        written = true;
+        int answered = 0;
+        for (std::size_t at = 0; at < columns.size(); ++at)
+            if (columns[at].adds) running.Read(answered++, values[at]);
+    });
+    return written;
 }
 
 Recordset::Recordset() : impl_(std::make_unique<Impl>()) {}
@@ -256,6 +309,7 @@ void Recordset::Filter(std::string_view criterion) {
         std::vector<jet::Term> terms;
         if (!criterion.empty())
             terms = jet::ParseCriterion(criterion, *impl_->Alive().Surroundings().regional);
+        impl_->place = Impl::Place::End; // also when the reading fails: the old row is none of these
         impl_->cursor->Filter(std::move(terms));
         impl_->Move(impl_->cursor->First(), Impl::Place::End);
     });
@@ -307,13 +361,36 @@ void Recordset::AddNew() {
     });
 }
 
+bool Recordset::Impl::Write(bool aboveZero) {
+    if (!editing) return Require(), true;
+    failed = true;
+    bool written = true;
+    adding ? Insert(Target()) : void(written = Save(Target(), aboveZero));
+    Forget();
+    return written;
+}
+
 void Recordset::Update() {
-    impl_->Guard([&] {
-        if (!impl_->editing) return impl_->Require();
-        impl_->failed = true;
-        impl_->adding ? impl_->Insert(impl_->Target()) : impl_->Save(impl_->Target());
-        impl_->Forget();
-    });
+    impl_->Guard([&] { impl_->Write(false); });
+}
+
+bool Recordset::UpdateAboveZero() {
+    return impl_->Guard([&] { return impl_->Write(true); });
+}
+
+bool Recordset::LeaveOutRefused() {
+    impl_->Alive();
+    if (!impl_->failed || !impl_->refused) return false;
+    const std::size_t field = *impl_->refused;
+    const jet::Column& column = *impl_->cursor->Fields()[field].column;
+    if (impl_->adding && column.required) {
+        if (column.type == jet::ColumnType::Date) return false; // no date stands for none
+        impl_->edits[field] = column.type == jet::ColumnType::Text ? Value("") : Value(0);
+    } else {
+        impl_->edits[field].reset();
+    }
+    impl_->refused.reset();
+    return true;
 }
 
 void Recordset::CancelUpdate() {
@@ -327,8 +404,7 @@ void Recordset::Delete() {
         impl_->Forget();
         impl_->Require();
         Session& session = impl_->Alive();
-        Running running(session.Compile("delete from \"" + std::string(table.name) + "\" where rowid=?1"),
-                        {impl_->cursor->Mark()});
+        Running running(session.Compile(DeleteStatement(table)), {impl_->cursor->Mark()});
         session.Write(running);
         impl_->connection->wrote = true;
         impl_->cursor->Removed();

@@ -1,6 +1,7 @@
 #include "platform/ado/Session.h"
 
 #include "common/Text.h"
+#include "platform/ado/RowStatements.h"
 
 #include <mutex>
 
@@ -128,17 +129,13 @@ std::shared_ptr<Compiled> Session::Compile(const std::string& sql) {
 std::shared_ptr<Compiled> Session::CompileInsert(const jet::Table& table) {
     std::shared_ptr<Compiled>& known = inserts_[&table];
     if (known) return known;
-    std::string names, marks;
-    for (const jet::Column& column : table.columns) {
-        names.append(names.empty() ? "\"" : ",\"").append(column.name).append("\"");
-        marks.append(marks.empty() ? "?" : ",?");
-    }
-    known = Compile("insert into \"" + std::string(table.name) + "\" (" + names + ") values (" + marks + ")");
+    known = Compile(InsertStatement(table));
     return known;
 }
 
-long Session::Write(Running& running) {
-    running.Step();
+long Session::Write(Running& running, const std::function<void()>& answer) {
+    while (running.Step())
+        if (answer) answer();
     ++state_->writes;
     state_->unsynced = true;
     return engine_->Changes();

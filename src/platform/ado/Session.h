@@ -106,8 +106,8 @@ public:
     std::shared_ptr<Compiled> Compile(const std::string& sql);
     // The statement that adds a row, with all columns of the table; one for each table, kept ready.
     std::shared_ptr<Compiled> CompileInsert(const jet::Table& table);
-    // Runs a writing statement; the rows it changed.
-    long Write(Running& running);
+    // Runs a writing statement; the rows it changed. What it answers with is shown row by row.
+    long Write(Running& running, const std::function<void()>& answer = {});
     // Runs the body while somebody may stop it. What wants to read through the session meanwhile, a window
     // that is painted while the person is asked, finds it watched and reads nothing.
     template <typename Body>

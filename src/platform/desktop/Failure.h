@@ -66,6 +66,9 @@ public:
     void Step(const std::function<void()>& statement);
     // Columns of the row under edit, each one step.
     void Put(ado::Recordset& rows, std::initializer_list<Cell> cells);
+    // Saves the row under edit. A value that its column refuses is asked about; passed over, it is left out
+    // and the rest of the row is saved: goods and balances never depend on a price or memo that did not fit.
+    void Update(ado::Recordset& rows);
     void PutRow(ado::Recordset& rows, std::initializer_list<Cell> cells); // the columns, then Update
     void AddRow(ado::Recordset& rows, std::initializer_list<Cell> cells); // AddNew, the columns, Update
     // The same with the description alone in the box, where a routine shows it so.

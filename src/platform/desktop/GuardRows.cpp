@@ -13,7 +13,19 @@ void Guard::AddRow(ado::Recordset& rows, std::initializer_list<Cell> cells) {
 
 void Guard::PutRow(ado::Recordset& rows, std::initializer_list<Cell> cells) {
     Put(rows, cells);
-    Step([&] { rows.Update(); });
+    Update(rows);
+}
+
+void Guard::Update(ado::Recordset& rows) {
+    bool leftOut = false;
+    do {
+        bool saved = false;
+        Step([&] {
+            rows.Update();
+            saved = true;
+        });
+        leftOut = !saved && rows.IsOpen() && rows.LeaveOutRefused();
+    } while (leftOut);
 }
 
 } // namespace varnik

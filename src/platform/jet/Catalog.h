@@ -15,6 +15,9 @@ struct Column {
     int size = 0; // characters, text only
     bool required = false;
     bool autoIncrement = false;
+    // Postings add to it. A recordset that saves it adds its change to what the row holds at that moment, so
+    // that programs posting at once lose nothing.
+    bool accumulates = false;
 };
 
 struct Table {

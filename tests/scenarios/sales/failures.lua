@@ -48,6 +48,15 @@ expect(posted(number), {{"", 0, 0}, {"0000000003", 3000, 0}})
 -- The sums were left as they were.
 expect(value("Select Total From Invoice Where NoInvoice = '" .. number .. "'"), 4000)
 
+scenario "A price that does not fit its column, passed over: goods, lot and balance are moved all the same"
+local had, owed = value "Select OnHand From Produk Where KodeBrg = '0000000001'", value "Select SaldoAkhir From Customer"
+answer "ignore"
+number = sale("0000000001", {{"0000000001", "2", "3000000000"}})
+expect(messages()[1].text:match "The number is too large for Produk.HargaJual" ~= nil, true)
+expect(sql "Select OnHand, HargaJual From Produk Where KodeBrg = '0000000001'", {{had - 2, 1000}})
+expect(value("Select Qty From PersediaanJual Where NoInvoice = '" .. number .. "'"), 2)
+expect(value "Select SaldoAkhir From Customer" > owed + 5999000000, true) -- to seven digits, as its column keeps it
+
 scenario "A number that another has taken meanwhile fails before anything is written"
 new_invoice "0000000001"
 number = text "TxtNoInvoice"

@@ -1,10 +1,10 @@
 -- One workstation of several on one shop: station.lua users opens their accounts, station.lua USER SEED DOCUMENTS
 -- does business by chance and says of every document what it was.
-local Users = {"budi", "tini", "agus"} -- beside the first one
+local Users = {"budi", "tini", "agus", "sari", "joko", "rina", "dewi"} -- beside the first one
 User = arg[1] ~= "users" and arg[1] or nil
 dofile(arg[0]:match ".*/" .. "../support/business.lua")
 if arg[1] == "users" then
-    open_shop()
+    open_shop(300) -- the stations meet on lots that one sale empties
     local password = value "Select [Password] From T_User"
     for i, name in ipairs(Users) do
         insert("T_User", {UserID = name, NoUser = "0" .. i, Password = password, Tambah = true, Ganti = true,

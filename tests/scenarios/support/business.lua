@@ -9,13 +9,18 @@ for i = 1, 3 do Buyers[i], Sellers[i] = ("C%09d"):format(i), ("S%d"):format(i) e
 local Service = Goods[#Goods]
 
 -- The shop before its first day; once in a folder. What there is of each of the goods lasts for all days: a
--- purchase that brings a negative stock to nothing would divide by it.
-function open_shop()
+-- purchase that brings a negative stock to nothing would divide by it. Before the lot that lasts stand small ones.
+function open_shop(small_lots)
+    local lots = 0
+    local function lot(...)
+        lots = lots + 1
+        purchase(("P%011d"):format(lots), ...)
+    end
     for i, code in ipairs(Goods) do
         product{KodeBrg = code, HargaJual = 10 * i, Jasa = code == Service, SatuanBeli = "DUS", PecahanBeli = 1 + i % 3 * 4}
         if code ~= Service then
-            purchase(("P%011d"):format(2 * i), code, 7, 70)
-            purchase(("P%011d"):format(2 * i + 1), code, 100000, 500000)
+            for _ = 1, small_lots or 1 do lot(code, 7, 70) end
+            lot(code, 100000, 500000)
         end
     end
     for _, code in ipairs(Buyers) do customer{KodeCus = code} end

@@ -15,12 +15,12 @@ using jet::ColumnType;
 
 inline constexpr Column CustomerColumns[] = {
     {"KodeCus", ColumnType::Text, 10, true},    {"NamaCus", ColumnType::Text, 50},
-    {"nJTP", ColumnType::Short, 0, true},       {"SaldoAkhir", ColumnType::Single, 0, true},
+    {"nJTP", ColumnType::Short, 0, true},       {"SaldoAkhir", ColumnType::Single, 0, true, false, true},
     {"SaldoAwal", ColumnType::Double, 0, true}, {"Aktif", ColumnType::Boolean, 0, true}};
 inline constexpr Column LotColumns[] = {
     {"NoFaktur", ColumnType::Text, 12, true}, {"TglFaktur", ColumnType::Date, 0, true},
     {"KodeBrg", ColumnType::Text, 10},        {"Qty", ColumnType::Single, 0, true},
-    {"Qty2", ColumnType::Long, 0, true},      {"QtySisa", ColumnType::Single, 0, true}};
+    {"Qty2", ColumnType::Long, 0, true},      {"QtySisa", ColumnType::Single, 0, true, false, true}};
 inline constexpr Column LedgerColumns[] = {{"ID", ColumnType::Long, 0, true, true},
                                            {"KodeBrg", ColumnType::Text, 10},
                                            {"Qty1", ColumnType::Single, 0, true},

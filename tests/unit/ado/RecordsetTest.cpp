@@ -243,6 +243,104 @@ TEST_F(RecordsetTest, NewRowsAreSavedCancelledAndRetried) {
     EXPECT_EQ(FailureOf([&] { ledger["ID"] = 9; }), CannotChange);
 }
 
+// Columns that postings add to take the change, all others the value, whoever wrote between read and save.
+TEST_F(RecordsetTest, AccumulatingColumnsLoseNothingToOthers) {
+    AddCustomer("A", "Adi", 100);
+    Connection connection = Open();
+    const auto stored = [this](const char* what) {
+        return Ask(std::string("Select ") + what + " From Customer Where KodeCus='A'");
+    };
+    Recordset rows("SELECT * FROM customer", connection);
+    rows["SaldoAkhir"] = 100.1; // alone: exactly the new value
+    rows.Update();
+    EXPECT_EQ(stored("SaldoAkhir"), Value(100.1));
+
+    Run("Update Customer Set SaldoAkhir = 1000, SaldoAwal = 7, NamaCus = 'Other'");
+    rows["SaldoAkhir"] = 150.1;
+    rows["SaldoAwal"] = 5;
+    rows.Update();
+    EXPECT_EQ(stored("SaldoAkhir"), Value(1050.0));
+    EXPECT_EQ(rows["SaldoAkhir"].Value(), Value(1050.0)); // what came of it is read back
+    EXPECT_EQ(stored("SaldoAwal"), Value(5.0));
+    EXPECT_EQ(stored("NamaCus"), Value("Other"));
+    rows["SaldoAkhir"] = 1060; // from the value read back
+    rows.Update();
+    EXPECT_EQ(stored("SaldoAkhir"), Value(1060.0));
+
+    Run("Update Customer Set SaldoAkhir = 3e38");
+    rows["SaldoAkhir"] = 3e38; // the sum does not fit, and nothing is written
+    EXPECT_EQ(FailureOf([&] { rows.Update(); }), Overflow);
+    EXPECT_EQ(stored("SaldoAwal"), Value(5.0));
+    rows.CancelUpdate();
+    rows["SaldoAkhir"] = 0;
+    Run("Delete From Customer");
+    EXPECT_EQ(FailureOf([&] { rows.Update(); }), RowGone);
+}
+
+TEST_F(RecordsetTest, ALotIsNotDrawnBelowNothingUnseen) {
+    Run("Insert Into FakturDetail Values ('F1','2026-01-01','A',10,1,10)");
+    Connection connection = Open();
+    Recordset lots("SELECT * FROM FakturDetail", connection);
+    Run("Update FakturDetail Set QtySisa = 4");
+    lots["QtySisa"] = 0;
+    EXPECT_FALSE(lots.UpdateAboveZero());
+    EXPECT_EQ(lots["QtySisa"].Value(), Value(4.0));
+    lots["QtySisa"] = 0;
+    EXPECT_TRUE(lots.UpdateAboveZero());
+    lots["QtySisa"] = -3; // by the one who sees it
+    EXPECT_TRUE(lots.UpdateAboveZero());
+    EXPECT_EQ(Ask("Select QtySisa From FakturDetail"), Value(-3.0));
+}
+
+TEST_F(RecordsetTest, WhatDoesNotFitIsLeftOutAlone) {
+    AddCustomer("A", "Adi", 100);
+    Connection connection = Open();
+    Recordset rows("SELECT * FROM customer", connection);
+    EXPECT_FALSE(rows.LeaveOutRefused());
+    rows["NamaCus"] = std::string(51, 'x');
+    rows["SaldoAkhir"] = 120;
+    rows["nJTP"] = 99999;
+    EXPECT_EQ(FailureOf([&] { rows.Update(); }), ConstraintFault);
+    EXPECT_TRUE(rows.LeaveOutRefused());
+    EXPECT_FALSE(rows.LeaveOutRefused()); // not before the next refusal
+    EXPECT_EQ(FailureOf([&] { rows.Update(); }), Overflow);
+    EXPECT_TRUE(rows.LeaveOutRefused());
+    rows.Update();
+    EXPECT_EQ(Ask("Select SaldoAkhir From Customer"), Value(120.0));
+    EXPECT_EQ(Ask("Select NamaCus From Customer"), Value("Adi"));
+
+    rows.AddNew();
+    for (const auto& [column, value] : {std::pair<const char*, Value>{"KodeCus", "B"},
+                                        {"nJTP", 99999},
+                                        {"SaldoAkhir", 1},
+                                        {"SaldoAwal", 1}})
+        rows[column] = value;
+    EXPECT_EQ(FailureOf([&] { rows.Update(); }), Overflow);
+    EXPECT_TRUE(rows.LeaveOutRefused());
+    rows.Update();
+    EXPECT_EQ(Ask("Select nJTP From Customer Where KodeCus='B'"), Value(0));
+    rows.AddNew(); // a key that is taken is no value that does not fit
+    for (const auto& [column, value] :
+         {std::pair<const char*, Value>{"KodeCus", "B"}, {"nJTP", 1}, {"SaldoAkhir", 1}, {"SaldoAwal", 1}})
+        rows[column] = value;
+    EXPECT_EQ(FailureOf([&] { rows.Update(); }), ConstraintFault);
+    EXPECT_FALSE(rows.LeaveOutRefused());
+}
+
+// Whoever passes a failed reading over must not take the old row for one of the rows asked for.
+TEST_F(RecordsetTest, AFailedReadingLeavesNoCurrentRow) {
+    AddCustomer("A", "Adi");
+    Connection connection = Open();
+    Recordset rows("SELECT * FROM customer", connection), again("SELECT * FROM customer", connection);
+    ExecuteNative(connection, "ALTER TABLE Customer RENAME TO Gone");
+    EXPECT_NE(FailureOf([&] { rows.Filter("KodeCus='B'"); }), 0);
+    EXPECT_TRUE(rows.Eof());
+    EXPECT_NE(FailureOf([&] { again.Requery(); }), 0);
+    EXPECT_EQ(FailureOf([&] { again.Delete(); }), NoCurrentRecord);
+    ExecuteNative(connection, "ALTER TABLE Gone RENAME TO Customer");
+    EXPECT_EQ(Ask("Select Count(*) From Customer"), Value(1));
+}
+
 // Random work on an open recordset, audited by a plain list of rows.
 TEST_F(RecordsetTest, AgreesWithAPlainListOfRows) {
     constexpr unsigned seed = 4711;

@@ -156,6 +156,41 @@ TEST_F(Lots, WhatASaleTakesAndCosts) {
     EXPECT_EQ(shop.Table("Select Count(*) From Persediaan Where NoRef='I99'"), "0");
 }
 
+// Another station draws 3 of the first lot between this one's reading and saving.
+TEST_F(Lots, WhatAnotherStationDrewMeanwhileIsDrawnFromTheNext) {
+    ado::ExecuteNative(connection,
+                       "CREATE TRIGGER other AFTER UPDATE OF QtySisa ON Persediaan WHEN NOT EXISTS "
+                       "(SELECT 1 FROM PersediaanJual WHERE NoInvoice = 'OTHER') BEGIN UPDATE "
+                       "FakturDetail SET QtySisa = QtySisa - 3 WHERE NoFaktur = 'F1'; INSERT INTO "
+                       "PersediaanJual VALUES ('OTHER', 'F1', '2026-01-01', 'P1', 3, 1); END");
+    struct Case {
+        double first, quantity, cost;
+        const char *open, *drawn, *moves;
+    };
+    const Case cases[] = {
+        // enough of it at first, then not
+        {10, 9, 7 * 1 + 2 * 2, "F1|0\nF2|18", "I1|F1|7|1\nI1|F2|2|2", "I1|0|0|7|1|93\nI1|0|0|2|2|91"},
+        // the whole lot at first
+        {10, 12, 7 * 1 + 5 * 2, "F1|0\nF2|15", "I1|F1|7|1\nI1|F2|5|2", "I1|0|0|7|1|93\nI1|0|0|5|2|88"},
+        // nothing is left of it
+        {3, 4, 4 * 2, "F1|0\nF2|16", "I1|F2|4|2", "I1|0|0|4|2|96"},
+        // still enough
+        {10, 5, 5, "F1|2\nF2|20", "I1|F1|5|1", "I1|0|0|5|1|95"},
+    };
+    for (const Case& c : cases) {
+        for (const char* table : {"FakturDetail", "Persediaan", "PersediaanJual"})
+            connection.Execute(std::string("Delete From ") + table);
+        Buy("F1", c.first, 1, c.first);
+        Buy("F2", 20, 1, 40);
+        EXPECT_DOUBLE_EQ(Sell(c.quantity), c.cost);
+        EXPECT_EQ(Open(), c.open);
+        EXPECT_EQ(shop.Table("Select NoInvoice,NoPO,Qty,Harga From PersediaanJual Where NoInvoice='I1'"),
+                  c.drawn);
+        EXPECT_EQ(Moves("31"), c.moves);
+        EXPECT_EQ(shop.Table("Select Sum(QtySisa) From Persediaan"), SqlNumber(c.first + 20 - c.quantity));
+    }
+}
+
 TEST_F(Lots, TheFirstOpenLedgerRowNeedNotBeTheLots) {
     Buy("F1", 10, 1, 10);
     Buy("F2", 10, 1, 10);
